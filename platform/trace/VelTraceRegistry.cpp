@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 The VelRshModel authors
+// SPDX-License-Identifier: Apache-2.0
+/// @file VelTraceRegistry.cpp Keeps each channel's bits in step with the switches, the scopes and the availability.
+#include "platform/trace/VelTraceRegistry.h"
+
+#include <utility>
+
+#include "platform/base/VelCheck.h"
+#include "platform/base/VelClock.h"
+#include "platform/trace/VelDiagnostics.h"
+
+VelTraceRegistry& VelTraceRegistry::Get() noexcept {
+  static VelTraceRegistry& registry = *new VelTraceRegistry;
+  return registry;
+}
+
+VelTraceRegistry::VelTraceRegistry() {
+  sinks_.Add(standardErrorSink_);
+  VelCheck::AddObserver(checkObserver_);
+}
+
+QrnSysTrace& VelTraceRegistry::Channel(std::string_view iName) {
+  const auto known = channels_.find(iName);
+  if (known != channels_.end()) return *known->second;
+  std::unique_ptr<QrnSysTrace> channel(new QrnSysTrace(iName));
+  ApplySwitch(*channel);
+  return *channels_.emplace(iName, std::move(channel)).first->second;
+}
+
+QrnSysTrace* VelTraceRegistry::Open(std::string_view iName) {
+  if (!available_) return nullptr;
+  QrnSysTrace& channel = Channel(iName);
+  ++channel.openCount_;
+  return &channel;
+}
+
+void VelTraceRegistry::Close(QrnSysTrace& ioChannel) noexcept {
+  if (ioChannel.openCount_ == 0) {
+    VelCheck::Failed(VEL_HERE("platform/trace/VelTraceRegistry"), "openCount_ > 0",
+                     "A trace channel was destroyed more often than created", ioChannel.name_);
+    return;
+  }
+  --ioChannel.openCount_;
+}
+
+int VelTraceRegistry::OpenChannelCount() const noexcept {
+  int count = 0;
+  for (const auto& [name, channel] : channels_) count += channel->openCount_;
+  return count;
+}
+
+void VelTraceRegistry::SetSwitches(VelTraceSwitches iSwitches) {
+  switches_ = std::move(iSwitches);
+  ApplyEverywhere();
+}
+
+void VelTraceRegistry::SetAvailable(bool iAvailable) {
+  available_ = iAvailable;
+  ApplyEverywhere();
+}
+
+void VelTraceRegistry::AddScope(VelDiagnostics& ioScope) {
+  scopes_.push_back(&ioScope);
+  ApplyEverywhere();
+}
+
+void VelTraceRegistry::RemoveScope(VelDiagnostics& ioScope) noexcept {
+  std::erase(scopes_, &ioScope);
+  ApplyEverywhere();
+}
+
+void VelTraceRegistry::Emit(const QrnSysTrace& iChannel, VelTraceRecord iRecord) noexcept {
+  iRecord.channel = iChannel.Name();
+  Deliver(iRecord, (iChannel.switched_ & QrnSysTrace::Bit(iRecord.kind)) != 0);
+}
+
+void VelTraceRegistry::EmitOwnWarning(std::string_view iText) noexcept {
+  VelTraceRecord record;
+  record.kind = VelTraceKind::Warning;
+  record.channel = "VelTrace";
+  record.text = iText;
+  Deliver(record, available_);
+}
+
+void VelTraceRegistry::Flush() noexcept {
+  sinks_.ForEach([](VelTraceSink& ioSink) { ioSink.Flush(); });
+}
+
+void VelTraceRegistry::Deliver(VelTraceRecord& ioRecord, bool iToSinks) noexcept {
+  ioRecord.ticks = VelClock::Now();
+  ioRecord.sequence = ++sequence_;
+  if (ioRecord.kind == VelTraceKind::Warning || ioRecord.kind == VelTraceKind::Error) {
+    for (VelDiagnostics* const scope : scopes_) scope->Collect(ioRecord);
+  }
+  if (!iToSinks) return;
+  sinks_.ForEach([&](VelTraceSink& ioSink) { ioSink.Write(ioRecord); });
+}
+
+void VelTraceRegistry::ApplySwitch(QrnSysTrace& ioChannel) const noexcept {
+  constexpr unsigned kError = QrnSysTrace::Bit(VelTraceKind::Error);
+  constexpr unsigned kWarning = QrnSysTrace::Bit(VelTraceKind::Warning);
+  const int level = available_ ? switches_.LevelOf(ioChannel.name_) : VelTraceLevel::kOff;
+  unsigned bits = 0;
+  if (level >= VelTraceLevel::kError) bits |= kError;
+  if (level >= VelTraceLevel::kWarning) bits |= kWarning;
+  if (level >= VelTraceLevel::kInfo) bits |= QrnSysTrace::Bit(VelTraceKind::Information);
+  if (level > VelTraceLevel::kInfo) bits |= QrnSysTrace::Bit(VelTraceKind::ClassTrace);
+  ioChannel.switched_ = static_cast<std::uint8_t>(bits);
+  if (available_ && !scopes_.empty()) bits |= kError | kWarning;
+  ioChannel.accepted_ = static_cast<std::uint8_t>(bits);
+  ioChannel.classLevel_ = static_cast<std::uint8_t>(level > VelTraceLevel::kInfo ? level - VelTraceLevel::kInfo : 0);
+}
+
+void VelTraceRegistry::ApplyEverywhere() noexcept {
+  for (const auto& [name, channel] : channels_) ApplySwitch(*channel);
+  // Traces that are out of service leave the checks to whoever else observes them, or to the standard error stream.
+  if (available_ || !scopes_.empty()) {
+    VelCheck::AddObserver(checkObserver_);
+  } else {
+    VelCheck::RemoveObserver(checkObserver_);
+  }
+}
