@@ -24,11 +24,11 @@ expect_no_arguments() { (($# == 0)) || wrong_usage "'$1' is not expected here"; 
 # Seconds -> minutes with one decimal.
 as_minutes() { printf '%d.%d min' $(($1 / 60)) $(($1 % 60 / 6)); }
 
-# The commit that a measure was taken on; a source archive has none.
+# The commit that a measure was taken on; a source archive has none. The logs that measures write are no change.
 commit_name() {
   local name
   name=$(git rev-parse --short=12 HEAD 2>/dev/null) || { echo unknown && return; }
-  git diff --quiet HEAD 2>/dev/null || name+=" with changes"
+  git diff --quiet HEAD -- . ':!docs/logs' 2>/dev/null || name+=" with changes"
   echo "$name"
 }
 

@@ -52,14 +52,18 @@ lint_stage() {
 }
 
 check_format() {
-  list_formatted | xargs -r -d '\n' -P "$jobs" -n 32 clang-format --dry-run --Werror --ferror-limit=2
+  list_formatted | xargs -r -d '\n' clang-format --dry-run --Werror --ferror-limit=2
 }
 
-# Each header is compiled alone: it includes what it uses.
+# Each header is compiled alone: it includes what it uses. What one compiler says is printed in one piece.
 check_headers() {
-  # shellcheck disable=SC2086 # the warnings are a list
-  list_sources h | xargs -r -d '\n' -P "$jobs" -n 4 \
-    clang++ -fsyntax-only -std=c++20 $header_warnings -I. -x c++-header
+  export header_warnings
+  # shellcheck disable=SC2016 # expanded by the inner shell
+  list_sources h | xargs -r -d '\n' -P "$jobs" -n 4 bash -c '
+    said=$(clang++ -fsyntax-only -std=c++20 $header_warnings -I. -x c++-header "$@" 2>&1) && exit
+    printf "%s\n" "$said"
+    exit 1
+  ' headers
 }
 
 # Prints the tracked sources that the lint preset compiles.
