@@ -19,7 +19,7 @@ class VelString : public VelText<VelString> {
 
   /// Implicit, so that a literal can stand where a VelString is asked for.
   /// @param[in] iText copied up to its NUL; null makes an empty string
-  VelString(const char* iText) : VelText(ViewOf(iText)) {}
+  VelString(const char* iText) : VelText(ViewOf(iText)) {}  // NOLINT(google-explicit-constructor)
 
   /// @param[in] iText copied whole, embedded NULs included; a VelUnicodeString and a std::string are taken as well
   explicit VelString(std::string_view iText) : VelText(iText) {}

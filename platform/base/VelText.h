@@ -32,7 +32,7 @@ class VelText {
 
   /// @return all bytes, until the text changes
   std::string_view View() const noexcept { return bytes_; }
-  operator std::string_view() const noexcept { return bytes_; }
+  operator std::string_view() const noexcept { return bytes_; }  // NOLINT(google-explicit-constructor)
 
   /// @return the number of bytes
   std::size_t Length() const noexcept { return bytes_.size(); }

@@ -21,7 +21,7 @@ class VelUnicodeString : public VelText<VelUnicodeString> {
 
   /// Implicit, so that a literal can stand where a VelUnicodeString is asked for.
   /// @param[in] iText UTF-8, copied up to its NUL; null makes an empty string
-  VelUnicodeString(const char* iText) : VelText(ViewOf(iText)) {}
+  VelUnicodeString(const char* iText) : VelText(ViewOf(iText)) {}  // NOLINT(google-explicit-constructor)
 
   /// @param[in] iText UTF-8, copied whole, embedded NULs included
   explicit VelUnicodeString(std::string_view iText) : VelText(iText) {}

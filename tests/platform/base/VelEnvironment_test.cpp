@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The VelRshModel authors
+// SPDX-License-Identifier: Apache-2.0
+/// @file VelEnvironment_test.cpp The behaviour of the environment variables.
+#include "platform/base/VelEnvironment.h"
+
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+namespace {
+
+constexpr const char* kName = "VEL_ENVIRONMENT_TEST";
+
+class VelEnvironmentTest : public ::testing::Test {
+ protected:
+  VelEnvironmentTest() { ::unsetenv(kName); }
+  ~VelEnvironmentTest() override { ::unsetenv(kName); }
+};
+
+TEST_F(VelEnvironmentTest, WithAVariableThatIsNotSet_LeavesTheValue) {
+  VelString value("before");
+  EXPECT_FALSE(VelEnvironment::Get(kName, value));
+  EXPECT_EQ(value, "before");
+  EXPECT_FALSE(VelEnvironment::IsSet(kName));
+}
+
+TEST_F(VelEnvironmentTest, WithAVariableSetToNothing_AnswersAnEmptyValue) {
+  ASSERT_EQ(::setenv(kName, "", 1), 0);
+  VelString value("before");
+  EXPECT_TRUE(VelEnvironment::Get(kName, value));
+  EXPECT_TRUE(value.IsEmpty());
+  EXPECT_TRUE(VelEnvironment::IsSet(kName));
+}
+
+TEST_F(VelEnvironmentTest, WithAVariableThatChanges_AnswersItsPresentBytes) {
+  VelString value;
+  ASSERT_EQ(::setenv(kName, "first", 1), 0);
+  EXPECT_TRUE(VelEnvironment::Get(kName, value));
+  EXPECT_EQ(value, "first");
+  ASSERT_EQ(::setenv(kName, "\xFF second", 1), 0);
+  EXPECT_TRUE(VelEnvironment::Get(kName, value));
+  EXPECT_EQ(value, "\xFF second");
+}
+
+TEST_F(VelEnvironmentTest, WithNoName_IsNotSet) {
+  VelString value("before");
+  EXPECT_FALSE(VelEnvironment::Get(nullptr, value));
+  EXPECT_FALSE(VelEnvironment::Get("", value));
+  EXPECT_FALSE(VelEnvironment::IsSet(nullptr));
+  EXPECT_EQ(value, "before");
+}
+
+}  // namespace
