@@ -3,18 +3,14 @@
 /// @file QrnSysTrace.cpp Opens and closes channels and formats what they emit.
 #include "platform/trace/QrnSysTrace.h"
 
-#include "platform/base/VelFormat.h"
 #include "platform/trace/VelTraceRegistry.h"
 
 void QrnSysTrace::Emit(VelTraceKind iKind, VelSourcePosition iPosition, const char* iFormat,
                        std::initializer_list<VelFormatArgument> iArguments) const noexcept {
-  const std::string text =
-      VelFormat::ListToText(iFormat != nullptr ? iFormat : "", {iArguments.begin(), iArguments.size()});
   VelTraceRecord record;
   record.kind = iKind;
-  record.text = text;
   record.position = {iPosition.source != nullptr ? iPosition.source : "", iPosition.line};
-  VelTraceRegistry::Get().Emit(*this, record);
+  VelTraceRegistry::Get().Emit(*this, record, iFormat, {iArguments.begin(), iArguments.size()});
 }
 
 QrnSysTrace* QrnSysTraceCreate(const char* iName) noexcept {

@@ -3,9 +3,6 @@
 /// @file VelClassTrace.cpp Finds the channel of a class and emits on it.
 #include "platform/trace/VelClassTrace.h"
 
-#include <string>
-
-#include "platform/base/VelFormat.h"
 #include "platform/trace/VelTraceRegistry.h"
 
 bool VelClassTrace::IsOnWhenResolved(int iLevel) const noexcept {
@@ -18,11 +15,8 @@ bool VelClassTrace::IsOnWhenResolved(int iLevel) const noexcept {
 
 void VelClassTrace::Emit(int iLevel, const char* iFormat,
                          std::initializer_list<VelFormatArgument> iArguments) const noexcept {
-  const std::string text =
-      VelFormat::ListToText(iFormat != nullptr ? iFormat : "", {iArguments.begin(), iArguments.size()});
   VelTraceRecord record;
   record.kind = VelTraceKind::ClassTrace;
   record.classLevel = iLevel;
-  record.text = text;
-  VelTraceRegistry::Get().Emit(*channel_, record);
+  VelTraceRegistry::Get().Emit(*channel_, record, iFormat, {iArguments.begin(), iArguments.size()});
 }

@@ -7,6 +7,7 @@
 
 #include "platform/base/VelCheck.h"
 #include "platform/base/VelClock.h"
+#include "platform/base/VelFormat.h"
 #include "platform/trace/VelDiagnostics.h"
 
 VelTraceRegistry& VelTraceRegistry::Get() noexcept {
@@ -70,11 +71,26 @@ void VelTraceRegistry::RemoveScope(VelDiagnostics& ioScope) noexcept {
 }
 
 void VelTraceRegistry::Emit(const QrnSysTrace& iChannel, VelTraceRecord iRecord) noexcept {
-  iRecord.channel = iChannel.Name();
-  Deliver(iRecord, (iChannel.switched_ & QrnSysTrace::Bit(iRecord.kind)) != 0);
+  try {
+    iRecord.channel = iChannel.Name();
+    Deliver(iRecord, (iChannel.switched_ & QrnSysTrace::Bit(iRecord.kind)) != 0);
+  } catch (...) {
+    // A trace that cannot be kept is lost; what it tells about goes on.
+  }
 }
 
-void VelTraceRegistry::EmitOwnWarning(std::string_view iText) noexcept {
+void VelTraceRegistry::Emit(const QrnSysTrace& iChannel, VelTraceRecord iRecord, const char* iFormat,
+                            std::span<const VelFormatArgument> iArguments) noexcept {
+  try {
+    const std::string text = VelFormat::ListToText(iFormat != nullptr ? iFormat : "", iArguments);
+    iRecord.text = text;
+    Emit(iChannel, iRecord);
+  } catch (...) {
+    // As above.
+  }
+}
+
+void VelTraceRegistry::EmitOwnWarning(std::string_view iText) {
   VelTraceRecord record;
   record.kind = VelTraceKind::Warning;
   record.channel = "VelTrace";
@@ -86,7 +102,7 @@ void VelTraceRegistry::Flush() noexcept {
   sinks_.ForEach([](VelTraceSink& ioSink) { ioSink.Flush(); });
 }
 
-void VelTraceRegistry::Deliver(VelTraceRecord& ioRecord, bool iToSinks) noexcept {
+void VelTraceRegistry::Deliver(VelTraceRecord& ioRecord, bool iToSinks) {
   ioRecord.ticks = VelClock::Now();
   ioRecord.sequence = ++sequence_;
   if (ioRecord.kind == VelTraceKind::Warning || ioRecord.kind == VelTraceKind::Error) {

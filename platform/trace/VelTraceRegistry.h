@@ -8,10 +8,12 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "platform/base/VelFormatArgument.h"
 #include "platform/base/VelListenerList.h"
 #include "platform/trace/QrnSysTrace.h"
 #include "platform/trace/VelTraceCheckObserver.h"
@@ -58,15 +60,20 @@ class VelTraceRegistry {
   /// ticks of the record are filled in here.
   void Emit(const QrnSysTrace& iChannel, VelTraceRecord iRecord) noexcept;
 
+  /// Formats the text of a record, then emits it.
+  /// @param[in] iFormat null counts as the empty text
+  void Emit(const QrnSysTrace& iChannel, VelTraceRecord iRecord, const char* iFormat,
+            std::span<const VelFormatArgument> iArguments) noexcept;
+
   /// Hands a warning of the traces about themselves to the scopes and the sinks, whatever the switch.
-  void EmitOwnWarning(std::string_view iText) noexcept;
+  void EmitOwnWarning(std::string_view iText);
 
   void Flush() noexcept;
 
  private:
   VelTraceRegistry();
 
-  void Deliver(VelTraceRecord& ioRecord, bool iToSinks) noexcept;
+  void Deliver(VelTraceRecord& ioRecord, bool iToSinks);
   void ApplySwitch(QrnSysTrace& ioChannel) const noexcept;
   void ApplyEverywhere() noexcept;
 

@@ -49,12 +49,13 @@ void CloseSink(std::unique_ptr<Sink>& ioSink) {
   ioSink.reset();
 }
 
-/// Replaces one sink by that of a variable, if the variable is set.
+/// Replaces one sink by that of a variable, if the variable is set; by none, if it is set to nothing.
 template <class Sink>
 void OpenSink(const char* iVariable, std::unique_ptr<Sink>& ioSink) {
   VelString path;
   if (!VelEnvironment::Get(iVariable, path)) return;
   CloseSink(ioSink);
+  if (path.IsEmpty()) return;
   auto sink = std::make_unique<Sink>();
   std::string cause;
   if (FAILED(sink->Open(path.CString(), cause))) {
@@ -81,6 +82,8 @@ void VelTraceService::SetSwitches(std::string_view iSwitches) {
 }
 
 void VelTraceService::ApplyEnvironment() {
+  // Without any variable, too, the checks become traces from here on.
+  static_cast<void>(VelTraceRegistry::Get());
   // The files first, so that what is wrong with the switches stands in them.
   OpenSink("VEL_TRACE_FILE", GetEnvironmentSinks().lines);
   OpenSink("VEL_TRACE_JSON", GetEnvironmentSinks().json);
