@@ -1,0 +1,227 @@
+// SPDX-FileCopyrightText: 2026 The VelRshModel authors
+// SPDX-License-Identifier: Apache-2.0
+/// @file VelDictionaryReader.cpp The line-by-line reader of dictionary files.
+#include "platform/objectmodeler/VelDictionaryReader.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <unordered_map>
+#include <utility>
+
+namespace {
+
+using Words = std::vector<std::string_view>;
+
+constexpr std::string_view header = "velrsh-dictionary";
+constexpr std::string_view version = "1";
+constexpr std::size_t rowLimit = 16384;
+
+/// Splits a line at blanks, up to a word that begins with '#'.
+Words Split(std::string_view iLine) {
+  constexpr std::string_view blanks = " \t\r\f\v";
+  Words words;
+  for (std::size_t begin = iLine.find_first_not_of(blanks); begin != std::string_view::npos && iLine[begin] != '#';) {
+    const std::size_t end = std::min(iLine.find_first_of(blanks, begin), iLine.size());
+    words.push_back(iLine.substr(begin, end - begin));
+    begin = iLine.find_first_not_of(blanks, end);
+  }
+  return words;
+}
+
+/// Names go into symbol names, so they are letters, digits and underscores.
+bool IsName(std::string_view iWord) {
+  return std::all_of(iWord.begin(), iWord.end(), [](char iByte) {
+    return (iByte >= 'A' && iByte <= 'Z') || (iByte >= 'a' && iByte <= 'z') || (iByte >= '0' && iByte <= '9') ||
+           iByte == '_';
+  });
+}
+
+/// Reads one file; each Take function handles one keyword and says what is wrong with its line, or nothing.
+class Reading {
+ public:
+  explicit Reading(std::vector<VelDictionaryModule>& oModules) : modules_(oModules) {}
+
+  std::optional<std::string> TakeLine(const Words& iWords, unsigned iLine) {
+    line_ = iLine;
+    if (!headerSeen_) return TakeHeader(iWords);
+    for (const Keyword& keyword : keywords) {
+      if (keyword.word == iWords.front()) return TakeStatement(keyword, iWords);
+    }
+    return "unknown word '" + std::string(iWords.front()) +
+           "', expected module, framework, library, type, class, bind or extend";
+  }
+
+  std::optional<std::string> Finish() const {
+    if (!headerSeen_) return "the file is empty, expected the line 'velrsh-dictionary 1'";
+    return modules_.empty() ? std::nullopt : FindIncomplete(modules_.back());
+  }
+
+ private:
+  struct Keyword {
+    std::string_view word;
+    std::string_view operands;  ///< As an error message lists them.
+    std::size_t operandCount;
+    std::optional<std::string> (Reading::*take)(const Words&);
+  };
+  static const std::array<Keyword, 7> keywords;
+
+  std::optional<std::string> TakeHeader(const Words& iWords) {
+    if (iWords.size() != 2 || iWords[0] != header)
+      return "expected the line 'velrsh-dictionary 1' before anything else";
+    if (iWords[1] != version) {
+      return "dictionary version '" + std::string(iWords[1]) + "' is unknown, expected '" + std::string(version) + "'";
+    }
+    headerSeen_ = true;
+    return std::nullopt;
+  }
+
+  std::optional<std::string> TakeStatement(const Keyword& iKeyword, const Words& iWords) {
+    if (iWords.size() != iKeyword.operandCount + 1) {
+      return "'" + std::string(iKeyword.word) + "' takes " + std::string(iKeyword.operands) + ", found " +
+             std::to_string(iWords.size() - 1) + " words";
+    }
+    for (std::size_t i = 1; i < iWords.size() && iKeyword.word != "library"; ++i) {
+      if (!IsName(iWords[i])) return "'" + std::string(iWords[i]) + "' is no name, expected letters, digits and '_'";
+    }
+    if (modules_.empty() && iKeyword.word != "module") return "expected a 'module' line before this one";
+    return (this->*iKeyword.take)(iWords);
+  }
+
+  static std::optional<std::string> FindIncomplete(const VelDictionaryModule& iModule) {
+    if (iModule.framework.empty()) return "the module '" + iModule.name + "' names no framework";
+    if (iModule.library.empty()) return "the module '" + iModule.name + "' names no library";
+    return std::nullopt;
+  }
+
+  std::optional<std::string> TakeModule(const Words& iWords) {
+    if (!modules_.empty()) {
+      if (auto fault = FindIncomplete(modules_.back())) return fault;
+    }
+    for (const VelDictionaryModule& module : modules_) {
+      if (module.name == iWords[1]) {
+        return "the module '" + module.name + "' stands already at line " + std::to_string(module.line);
+      }
+    }
+    modules_.push_back({std::string(iWords[1]), {}, {}, line_, {}, {}, {}});
+    return std::nullopt;
+  }
+
+  std::optional<std::string> TakeOnce(std::string& oField, const Words& iWords) {
+    if (!oField.empty()) return "'" + std::string(iWords[0]) + "' stands twice for the module '" + Module().name + "'";
+    oField = iWords[1];
+    return std::nullopt;
+  }
+  std::optional<std::string> TakeFramework(const Words& iWords) { return TakeOnce(Module().framework, iWords); }
+  std::optional<std::string> TakeLibrary(const Words& iWords) { return TakeOnce(Module().library, iWords); }
+
+  std::optional<std::string> TakeType(const Words& iWords) {
+    Module().types.push_back({std::string(iWords[1]), std::string(iWords[2]), line_});
+    return std::nullopt;
+  }
+
+  std::optional<std::string> TakeClass(const Words& iWords) {
+    constexpr std::array<std::pair<std::string_view, VelTypeOfClass>, 3> kinds{
+        {{"Implementation", VelTypeOfClass::Implementation},
+         {"Extension", VelTypeOfClass::Extension},
+         {"DelegatingExtension", VelTypeOfClass::DelegatingExtension}}};
+    if (FindClass(iWords[1]) != nullptr) return "the class '" + std::string(iWords[1]) + "' stands twice";
+    for (const auto& [word, kind] : kinds) {
+      if (word != iWords[2]) continue;
+      Module().classes.push_back({std::string(iWords[1]), kind});
+      return std::nullopt;
+    }
+    return "unknown kind '" + std::string(iWords[2]) + "', expected Implementation, Extension or DelegatingExtension";
+  }
+
+  std::optional<std::string> TakeBind(const Words& iWords) {
+    const VelDictionaryClass* owner = FindClass(iWords[5]);
+    if (owner == nullptr) return "the class '" + std::string(iWords[5]) + "' has no 'class' line before this one";
+    const bool isTie = iWords[3] == "TIE";
+    if (!isTie && iWords[3] != "BOA") return "unknown mechanism '" + std::string(iWords[3]) + "', expected TIE or BOA";
+    const bool livesAlong = iWords[4] == "Component";
+    if (!livesAlong && iWords[4] != "Reference") {
+      return "unknown lifetime '" + std::string(iWords[4]) + "', expected Component or Reference";
+    }
+    if (isTie == (owner->kind == VelTypeOfClass::DelegatingExtension)) {
+      return "a DelegatingExtension answers by BOA and every other class by TIE";
+    }
+    if (!isTie && livesAlong) return "a BOA row lives by Reference, found Component";
+    return AddRow({std::string(iWords[1]), std::string(iWords[2]), isTie ? VelMechanism::TIE : VelMechanism::BOA,
+                   livesAlong ? VelLifetime::Component : VelLifetime::Reference, owner->name, line_});
+  }
+
+  std::optional<std::string> TakeExtend(const Words& iWords) {
+    std::vector<VelDictionaryRow> copies;
+    for (const VelDictionaryRow& row : Module().rows) {
+      if (row.className != iWords[2]) continue;
+      if (copies.empty() || row.lateType == copies.front().lateType) copies.push_back(row);
+    }
+    if (copies.empty()) return "the class '" + std::string(iWords[2]) + "' has no 'bind' line before this one";
+    for (VelDictionaryRow& copy : copies) {
+      copy.lateType = iWords[1];
+      copy.line = line_;
+      if (auto fault = AddRow(std::move(copy))) return fault;
+    }
+    return std::nullopt;
+  }
+
+  std::optional<std::string> AddRow(VelDictionaryRow iRow) {
+    if (boundAt_.size() >= rowLimit) return "a dictionary holds at most " + std::to_string(rowLimit) + " rows";
+    const auto [place, isNew] = boundAt_.emplace(iRow.lateType + ' ' + iRow.interfaceName, line_);
+    if (!isNew) {
+      return "'" + iRow.interfaceName + "' is bound to '" + iRow.lateType + "' already at line " +
+             std::to_string(place->second);
+    }
+    Module().rows.push_back(std::move(iRow));
+    return std::nullopt;
+  }
+
+  VelDictionaryModule& Module() { return modules_.back(); }
+
+  const VelDictionaryClass* FindClass(std::string_view iName) const {
+    for (const VelDictionaryClass& known : modules_.back().classes) {
+      if (known.name == iName) return &known;
+    }
+    return nullptr;
+  }
+
+  std::vector<VelDictionaryModule>& modules_;
+  std::unordered_map<std::string, unsigned> boundAt_;  ///< The line of each late type and interface.
+  unsigned line_ = 0;
+  bool headerSeen_ = false;
+};
+
+const std::array<Reading::Keyword, 7> Reading::keywords{
+    {{"module", "a name", 1, &Reading::TakeModule},
+     {"framework", "a name", 1, &Reading::TakeFramework},
+     {"library", "a file", 1, &Reading::TakeLibrary},
+     {"type", "a late type and its base", 2, &Reading::TakeType},
+     {"class", "a name and a kind", 2, &Reading::TakeClass},
+     {"bind", "a late type, an interface, a mechanism, a lifetime and a class", 5, &Reading::TakeBind},
+     {"extend", "a late type and a class", 2, &Reading::TakeExtend}}};
+
+}  // namespace
+
+bool VelDictionaryReader::Read(std::string_view iText, std::vector<VelDictionaryModule>& oModules,
+                               VelDictionaryFault& oFault) {
+  oModules.clear();
+  Reading reading(oModules);
+  unsigned line = 0;
+  while (!iText.empty()) {
+    const std::size_t end = std::min(iText.find('\n'), iText.size());
+    const Words words = Split(iText.substr(0, end));
+    iText.remove_prefix(std::min(end + 1, iText.size()));
+    ++line;
+    if (words.empty()) continue;
+    if (auto fault = reading.TakeLine(words, line)) {
+      oFault = {line, *std::move(fault)};
+      return false;
+    }
+  }
+  if (auto fault = reading.Finish()) {
+    oFault = {line, *std::move(fault)};
+    return false;
+  }
+  return true;
+}

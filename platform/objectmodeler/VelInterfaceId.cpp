@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The VelRshModel authors
+// SPDX-License-Identifier: Apache-2.0
+/// @file VelInterfaceId.cpp Hands out the numbers of interface names.
+#include "platform/objectmodeler/VelInterfaceId.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/objectmodeler/VelMetaClass.h"
+
+namespace {
+
+/// The names by number and the numbers by name. Never destroyed: identifiers are used to the end of the process.
+struct Names {
+  std::map<std::string, std::uint32_t, std::less<>> numbers;
+  std::vector<std::string_view> names;
+};
+
+Names& AllNames() {
+  static Names& names = *new Names;
+  return names;
+}
+
+}  // namespace
+
+VelInterfaceId::VelInterfaceId(const char* iName) : name_(iName), base_(nullptr), index_(IndexOf(iName)) {}
+
+VelInterfaceId::VelInterfaceId(const char* iName, const VelInterfaceId& iBase)
+    : name_(iName), base_(&iBase), index_(IndexOf(iName)) {}
+
+std::uint32_t VelInterfaceId::IndexOf(std::string_view iName) {
+  Names& all = AllNames();
+  if (const auto known = all.numbers.find(iName); known != all.numbers.end()) return known->second;
+  const auto number = static_cast<std::uint32_t>(all.names.size());
+  all.names.push_back(all.numbers.emplace(std::string(iName), number).first->first);
+  return number;
+}
+
+std::uint32_t VelInterfaceId::FindIndex(std::string_view iName) noexcept {
+  const auto known = AllNames().numbers.find(iName);
+  return known != AllNames().numbers.end() ? known->second : noNumber;
+}
+
+std::string_view VelInterfaceId::NameOf(std::uint32_t iIndex) noexcept {
+  return iIndex < AllNames().names.size() ? AllNames().names[iIndex] : std::string_view();
+}
+
+const VelMetaClass& VelInterfaceId::MetaObject() const noexcept {
+  const VelMetaClass* base = base_ != nullptr ? &base_->MetaObject() : nullptr;
+  return fct_RetrieveMetaObject(name_, base, VelTypeOfClass::Interface, name_);
+}

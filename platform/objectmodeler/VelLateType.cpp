@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The VelRshModel authors
+// SPDX-License-Identifier: Apache-2.0
+/// @file VelLateType.cpp Interns the late types and looks up their answers.
+#include "platform/objectmodeler/VelLateType.h"
+
+#include <map>
+#include <memory>
+
+#include "platform/objectmodeler/VelModuleOpener.h"
+
+std::uint64_t VelLateType::generation = 1;
+VelBinding VelLateType::unanswered{};
+
+namespace {
+
+using Types = std::map<std::string, VelLateType*, std::less<>>;
+
+Types& AllTypes() {
+  static Types& types = *new Types;
+  return types;
+}
+
+}  // namespace
+
+VelLateType& VelLateType::Of(std::string_view iName) {
+  if (VelLateType* known = Find(iName)) return *known;
+  auto* made = new VelLateType(iName);
+  AllTypes().emplace(std::string(iName), made);
+  return *made;
+}
+
+VelLateType* VelLateType::Find(std::string_view iName) noexcept {
+  const auto found = AllTypes().find(iName);
+  return found == AllTypes().end() ? nullptr : found->second;
+}
+
+VelLateType& VelLateType::Root() {
+  static VelLateType& root = Of("VelComponent");
+  return root;
+}
+
+VelLateType* VelLateType::Base() const noexcept {
+  if (base_ != nullptr) return base_;
+  if (this == &Root()) return nullptr;
+  const VelMetaClass* metaClass = VelMetaClass::Find(name_);
+  for (metaClass = metaClass != nullptr ? metaClass->Base() : nullptr; metaClass != nullptr;
+       metaClass = metaClass->Base()) {
+    if (VelLateType* base = Find(metaClass->Name())) return base;
+  }
+  return &Root();
+}
+
+void VelLateType::DeclareBase(VelLateType* iBase, const VelDictionarySource* iSource) noexcept {
+  base_ = iBase;
+  baseSource_ = iSource;
+  ForgetAnswers();
+}
+
+void VelLateType::Add(VelBinding& ioRow) {
+  rows_.push_back(&ioRow);
+  ForgetAnswers();
+}
+
+void VelLateType::RemoveRowsOf(const VelDictionarySource& iSource) noexcept {
+  std::erase_if(rows_, [&](const VelBinding* iRow) { return iRow->source == &iSource; });
+  ForgetAnswers();
+}
+
+VelBinding* VelLateType::Declared(std::uint32_t iInterfaceIndex) const noexcept {
+  for (const VelLateType* type = this; type != nullptr; type = type->Base()) {
+    for (VelBinding* row : type->rows_) {
+      if (row->interfaceIndex == iInterfaceIndex) return row;
+    }
+  }
+  return nullptr;
+}
+
+VelBinding* VelLateType::MainImplementation() {
+  for (const VelLateType* type = this; type != nullptr; type = type->Base()) {
+    for (VelBinding* row : type->rows_) {
+      if (row->kind == VelTypeOfClass::Implementation && VelModuleOpener::EnsureOpen(*row)) return row;
+    }
+  }
+  return nullptr;
+}
+
+VelBinding* VelLateType::FindAnswer(std::uint32_t iInterfaceIndex) {
+  VelBinding* row = Declared(iInterfaceIndex);
+  if (row != nullptr && !VelModuleOpener::EnsureOpen(*row)) row = nullptr;
+  // Opening a library can add rows and meta-classes, so the answers are brought up to date only now.
+  CatchUp(iInterfaceIndex);
+  answers_[iInterfaceIndex] = row;
+  return row;
+}
+
+void VelLateType::CatchUp(std::uint32_t iInterfaceIndex) {
+  if (generation_ != generation) answers_.clear();
+  generation_ = generation;
+  if (iInterfaceIndex >= answers_.size()) answers_.resize(iInterfaceIndex + 1, &unanswered);
+}
