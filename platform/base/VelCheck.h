@@ -20,7 +20,14 @@ class VEL_PLATFORM_API VelFailureObserver {
   ~VelFailureObserver() = default;
 };
 
-/// The non-fatal checks of the process. While nobody observes, a report is one line on the standard error stream.
+/// The non-fatal checks of the process. A report that no observer hears is one line on the standard error stream, where
+/// empty parts are left out:
+///
+///     check failed: <expression>: <message> { detail = <detail> } [<source>:<line>]
+///
+/// Assertions and fatal logs start with "assertion failed" and "fatal error"; an assertion's expression stands in its
+/// message alone. Thread: the application thread. Re-entrancy: observers may raise checks, add and remove observers;
+/// one added while a report is handed round waits for the next. What an observer throws ends there.
 class VEL_PLATFORM_API VelCheck {
  public:
   /// Reports a check that failed and returns.

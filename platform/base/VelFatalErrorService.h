@@ -11,7 +11,8 @@
 #include "platform/base/VelSourcePosition.h"
 
 /// Decides what a fatal error does. The handler in force by default publishes the report (VelCheck::Publish), flushes
-/// and aborts. A handler that returns makes the raising operation return the failure code that it documents.
+/// and aborts. A handler that returns makes the raising operation return the failure code that it documents; one that
+/// throws counts as having returned. A fatal error that a handler raises itself takes the default way.
 class VEL_PLATFORM_API VelFatalErrorHandler {
  public:
   virtual void OnFatalError(const VelFailureReport& iReport) = 0;
