@@ -42,12 +42,6 @@ VelDictionaryFault FindContradiction(const VelDictionaryModule& iModule) {
     if (source->module != iModule.name) continue;
     return {iModule.line, "the module '" + iModule.name + "' is declared already by " + PlaceOf(*source)};
   }
-  for (const VelDictionaryType& type : iModule.types) {
-    const VelLateType* known = VelLateType::Find(type.lateType);
-    if (known == nullptr || known->DeclaredBase() == nullptr || known->DeclaredBase()->Name() == type.base) continue;
-    return {type.line, "the base of '" + type.lateType + "' is '" + known->DeclaredBase()->Name() +
-                           "' already, found '" + type.base + "'"};
-  }
   for (const VelDictionaryRow& row : iModule.rows) {
     const VelLateType* type = VelLateType::Find(row.lateType);
     if (type == nullptr) continue;
@@ -68,25 +62,46 @@ bool ClosesCycle(const VelLateType& iType, const VelLateType& iBase) {
   return false;
 }
 
+/// Takes a base back that a module declared, unless another module declares it too.
+void TakeBaseBack(VelLateType& ioType, const VelDictionarySource& iLeaving) {
+  for (const auto& source : AllSources()) {
+    if (source.get() == &iLeaving) continue;
+    for (const VelDictionaryBase& known : source->bases) {
+      if (known.lateType == &ioType) return ioType.DeclareBase(known.base, source.get());
+    }
+  }
+  ioType.DeclareBase(nullptr, nullptr);
+}
+
 void Remove(const VelDictionarySource& iSource) {
   for (VelLateType* type : iSource.types) type->RemoveRowsOf(iSource);
-  for (VelLateType* type : iSource.typesWithBase) type->DeclareBase(nullptr, nullptr);
+  for (const VelDictionaryBase& known : iSource.bases) TakeBaseBack(*known.lateType, iSource);
   std::erase_if(AllSources(), [&](const auto& iKnown) { return iKnown.get() == &iSource; });
 }
 
-/// Enters bases, which alone can fail now: two files that are each sound can close a cycle together.
+/// @return why a late type cannot have a base, empty when it can
+std::string FindBaseFault(const VelLateType& iType, const VelLateType& iBase) {
+  const VelLateType* known = iType.DeclaredBase();
+  if (known == &iBase) return {};
+  if (known != nullptr) {
+    return "the base of '" + iType.Name() + "' is '" + known->Name() + "' already by " + PlaceOf(*iType.BaseSource()) +
+           ", found '" + iBase.Name() + "'";
+  }
+  if (!ClosesCycle(iType, iBase)) return {};
+  return "'" + iType.Name() + "' would derive from itself through '" + iBase.Name() + "'";
+}
+
+/// Enters bases, which can fail half-way: lines that are each sound can contradict each other or close a cycle.
 bool EnterBases(const VelDictionaryModule& iModule, VelDictionarySource& ioSource) {
   for (const VelDictionaryType& type : iModule.types) {
     VelLateType& lateType = VelLateType::Of(type.lateType);
     VelLateType& base = VelLateType::Of(type.base);
-    if (lateType.DeclaredBase() != nullptr) continue;
-    if (ClosesCycle(lateType, base)) {
-      VelReportDictionaryError(ioSource.file, type.line,
-                               "'" + type.lateType + "' would derive from itself through '" + type.base + "'");
+    if (const std::string fault = FindBaseFault(lateType, base); !fault.empty()) {
+      VelReportDictionaryError(ioSource.file, type.line, fault);
       return false;
     }
-    lateType.DeclareBase(&base, &ioSource);
-    ioSource.typesWithBase.push_back(&lateType);
+    if (lateType.DeclaredBase() == nullptr) lateType.DeclareBase(&base, &ioSource);
+    ioSource.bases.push_back({&lateType, &base});
   }
   return true;
 }

@@ -10,6 +10,12 @@
 
 #include "platform/objectmodeler/VelLateType.h"
 
+/// A late type's base, as a module declares it. Several modules may declare the same.
+struct VelDictionaryBase {
+  VelLateType* lateType;
+  VelLateType* base;
+};
+
 /// A module that declared rows, from a dictionary file or linked into the program.
 struct VelDictionarySource {
   std::string file;   ///< The dictionary file, empty for a linked module.
@@ -21,7 +27,7 @@ struct VelDictionarySource {
   std::string refusal;                            ///< Why the library cannot be used; empty while it can.
   std::vector<std::unique_ptr<VelBinding>> rows;  ///< The rows, in the order of declaration.
   std::vector<VelLateType*> types;                ///< The late types that the rows stand on, each once.
-  std::vector<VelLateType*> typesWithBase;        ///< The late types whose base this module declares.
+  std::vector<VelDictionaryBase> bases;           ///< The bases that this module declares.
 };
 
 #endif  // PLATFORM_OBJECTMODELER_VELDICTIONARYSOURCE_H
