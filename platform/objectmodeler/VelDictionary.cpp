@@ -274,7 +274,7 @@ void VelDictionary::SetLibraryFolders(std::vector<std::string> iFolders) {
 
 std::string_view VelQueryFramework(std::string_view iLateType, std::string_view iInterface) noexcept {
   const VelLateType* type = VelLateType::Find(iLateType);
-  if (type == nullptr) type = &VelLateType::Root();
+  if (type == nullptr) type = &VelLateType::BaseByClass(iLateType);
   const VelBinding* row = type->Declared(VelInterfaceId::FindIndex(iInterface));
   return row != nullptr ? std::string_view(row->source->framework) : std::string_view();
 }

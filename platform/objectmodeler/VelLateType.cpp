@@ -39,15 +39,30 @@ VelLateType& VelLateType::Root() {
   return root;
 }
 
+VelLateType& VelLateType::BaseByClass(std::string_view iName) noexcept {
+  const VelMetaClass* metaClass = VelMetaClass::Find(iName);
+  for (metaClass = metaClass != nullptr ? metaClass->Base() : nullptr; metaClass != nullptr;
+       metaClass = metaClass->Base()) {
+    if (VelLateType* base = Find(metaClass->Name())) return *base;
+  }
+  return Root();
+}
+
 VelLateType* VelLateType::Base() const noexcept {
   if (base_ != nullptr) return base_;
   if (this == &Root()) return nullptr;
-  const VelMetaClass* metaClass = VelMetaClass::Find(name_);
-  for (metaClass = metaClass != nullptr ? metaClass->Base() : nullptr; metaClass != nullptr;
-       metaClass = metaClass->Base()) {
-    if (VelLateType* base = Find(metaClass->Name())) return base;
+  VelLateType& base = BaseByClass(name_);
+  return LeadsBackToThis(base) ? &Root() : &base;
+}
+
+bool VelLateType::LeadsBackToThis(const VelLateType& iBase) const noexcept {
+  const VelLateType* type = &iBase;
+  // A cycle that this type is not part of ends with the count.
+  for (std::size_t left = AllTypes().size(); left > 0 && type != &Root(); --left) {
+    if (type == this) return true;
+    type = type->base_ != nullptr ? type->base_ : &BaseByClass(type->name_);
   }
-  return &Root();
+  return false;
 }
 
 void VelLateType::DeclareBase(VelLateType* iBase, const VelDictionarySource* iSource) noexcept {

@@ -52,6 +52,9 @@ class VelLateType {
   /// @return the root that every late type derives from in the end
   static VelLateType& Root();
 
+  /// @return the late type of the nearest base class of the meta-class of a name, the root when there is none
+  static VelLateType& BaseByClass(std::string_view iName) noexcept;
+
   /// Makes every late type forget its answers; called whenever rows or bases change.
   static void ForgetAnswers() noexcept { ++generation; }
 
@@ -96,6 +99,10 @@ class VelLateType {
 
  private:
   explicit VelLateType(std::string_view iName) : name_(iName) {}
+
+  /// A dictionary cannot declare a cycle, but a meta-class that is made later can close one with declared bases.
+  bool LeadsBackToThis(const VelLateType& iBase) const noexcept;
+
   VelBinding* FindAnswer(std::uint32_t iInterfaceIndex);
   void CatchUp(std::uint32_t iInterfaceIndex);
 
