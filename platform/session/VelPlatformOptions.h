@@ -10,11 +10,17 @@
 /// The inputs of a session, all of them optional. Relative paths are looked for in the current folder, then in the
 /// search folders, in order.
 struct VelPlatformOptions {
-  std::vector<std::string> dictionaries;    ///< Dictionary files, and folders whose ".dictionary" files are all loaded.
-  std::vector<std::string> catalogs;        ///< Feature catalogs.
-  std::vector<std::string> configurations;  ///< Configuration files, a later one overriding key by key.
-  std::vector<std::string>
-      searchFolders;  ///< Also where libraries are looked for that a dictionary names without folder.
+  /// Dictionary files, and folders whose ".dictionary" files are all loaded.
+  std::vector<std::string> dictionaries{};
+
+  /// Feature catalogs.
+  std::vector<std::string> catalogs{};
+
+  /// Configuration files, a later one overriding key by key.
+  std::vector<std::string> configurations{};
+
+  /// Where relative paths are looked for, and the libraries that a dictionary names without a folder.
+  std::vector<std::string> searchFolders{};
 };
 
 #endif  // PLATFORM_SESSION_VELPLATFORMOPTIONS_H

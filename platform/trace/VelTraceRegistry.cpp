@@ -10,6 +10,8 @@
 #include "platform/base/VelFormat.h"
 #include "platform/trace/VelDiagnostics.h"
 
+constinit int VelTraceRegistry::openChannels = 0;
+
 VelTraceRegistry& VelTraceRegistry::Get() noexcept {
   static VelTraceRegistry& registry = *new VelTraceRegistry;
   return registry;
@@ -32,6 +34,7 @@ QrnSysTrace* VelTraceRegistry::Open(std::string_view iName) {
   if (!available_) return nullptr;
   QrnSysTrace& channel = Channel(iName);
   ++channel.openCount_;
+  ++openChannels;
   return &channel;
 }
 
@@ -42,12 +45,7 @@ void VelTraceRegistry::Close(QrnSysTrace& ioChannel) noexcept {
     return;
   }
   --ioChannel.openCount_;
-}
-
-int VelTraceRegistry::OpenChannelCount() const noexcept {
-  int count = 0;
-  for (const auto& [name, channel] : channels_) count += channel->openCount_;
-  return count;
+  --openChannels;
 }
 
 void VelTraceRegistry::SetSwitches(VelTraceSwitches iSwitches) {

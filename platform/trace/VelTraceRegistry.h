@@ -38,7 +38,8 @@ class VelTraceRegistry {
   /// Counts a destroy.
   void Close(QrnSysTrace& ioChannel) noexcept;
 
-  [[nodiscard]] int OpenChannelCount() const noexcept;
+  /// @return the creates without destroy; asking is no first use of the traces
+  [[nodiscard]] static int OpenChannelCount() noexcept { return openChannels; }
 
   void SetSwitches(VelTraceSwitches iSwitches);
 
@@ -76,6 +77,8 @@ class VelTraceRegistry {
   void Deliver(VelTraceRecord& ioRecord, bool iToSinks);
   void ApplySwitch(QrnSysTrace& ioChannel) const noexcept;
   void ApplyEverywhere() noexcept;
+
+  static int openChannels;
 
   std::map<std::string, std::unique_ptr<QrnSysTrace>, std::less<>> channels_;
   VelListenerList<VelTraceSink> sinks_;

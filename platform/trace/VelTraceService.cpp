@@ -107,4 +107,4 @@ void VelTraceService::SetAvailable(bool iAvailable) { VelTraceRegistry::Get().Se
 
 bool VelTraceService::IsAvailable() noexcept { return VelTraceRegistry::Get().IsAvailable(); }
 
-int VelTraceService::OpenChannelCount() noexcept { return VelTraceRegistry::Get().OpenChannelCount(); }
+int VelTraceService::OpenChannelCount() noexcept { return VelTraceRegistry::OpenChannelCount(); }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
-/// @file VelTestMain.cpp The main function of every test program: it takes over the environment's locale and runs the tests.
+/// @file VelTestMain.cpp The main function of every test program: it takes over the environment's locale and runs the
+/// tests.
 #include <clocale>
 #include <cstdlib>
 #include <cstring>
@@ -8,7 +9,28 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/base/VelVisibility.h"
+#include "platform/objectmodeler/VelInstanceCounts.h"
+#include "platform/trace/VelTraceService.h"
+
+// The C library keeps what it splits LOCPATH into; it is the loader of the comma locale, not the system under test.
+extern "C" VEL_EXPORT const char* __lsan_default_suppressions();  // NOLINT: the name is the sanitizer's
+extern "C" const char* __lsan_default_suppressions() { return "leak:argz_add_sep\n"; }  // NOLINT
+
 namespace {
+
+/// After each test nothing may be alive that the test made: no component, implementation, forwarder or channel.
+class LeakListener final : public ::testing::EmptyTestEventListener {
+  void OnTestEnd(const ::testing::TestInfo&) override {
+    const VelInstanceCounts left = VelInstanceCounts::Now();
+    EXPECT_EQ(left.components, 0);
+    EXPECT_EQ(left.implementations, 0);
+    EXPECT_EQ(left.forwarders, 0);
+    EXPECT_EQ(left.delegatingExtensions, 0);
+    EXPECT_EQ(left.liveParts, 0);
+    EXPECT_EQ(VelTraceService::OpenChannelCount(), 0);
+  }
+};
 
 /// Puts the process under the locale that the environment names, the way a host program would.
 bool AdoptEnvironmentLocale() {
@@ -27,5 +49,6 @@ int main(int argc, char** argv) {
     std::fputs("The comma locale that this run asks for is not in force.\n", stderr);
     return 2;
   }
+  ::testing::UnitTest::GetInstance()->listeners().Append(new LeakListener);
   return RUN_ALL_TESTS();
 }

@@ -9,21 +9,7 @@
 #include "platform/base/VelClock.h"
 #include "platform/trace/VelClassTrace.h"
 #include "tests/platform/trace/TraceTest.h"
-
-namespace {
-
-constinit std::size_t allocations = 0;
-
-}  // namespace
-
-// This program's own allocation functions, which count.
-void* operator new(std::size_t iSize) {
-  ++allocations;
-  if (void* const memory = std::malloc(iSize != 0 ? iSize : 1)) return memory;
-  throw std::bad_alloc();
-}
-void operator delete(void* iMemory) noexcept { std::free(iMemory); }
-void operator delete(void* iMemory, std::size_t) noexcept { std::free(iMemory); }
+#include "tests/support/VelAllocationCounter.h"
 
 namespace {
 
@@ -72,10 +58,10 @@ TEST_F(VelTraceCostTest, Messages_ThatAreOff_NeitherConvertNorAllocateNorReadThe
   EXPECT_FALSE(classTrace.IsOn(1)) << "the first use looks its channel up, which is no cost of a message";
   const NoticingClock clock;
   conversions = 0;
-  const std::size_t before = allocations;
+  const VelAllocationCounter allocations;
   EmitAll();
-  const std::size_t after = allocations;
-  EXPECT_EQ(after - before, 0U);
+  const long count = allocations.Count();
+  EXPECT_EQ(count, 0);
   EXPECT_EQ(conversions, 0);
   EXPECT_EQ(clock.readings, 0);
 }
@@ -84,10 +70,10 @@ TEST_F(VelTraceCostTest, Messages_ThatAreOn_AreNoticedByTheSameMeans) {
   VelTraceService::SetSwitches("*=9");
   const NoticingClock clock;
   conversions = 0;
-  const std::size_t before = allocations;
+  const VelAllocationCounter allocations;
   EmitAll();
-  const std::size_t after = allocations;
-  EXPECT_GT(after - before, 0U);
+  const long count = allocations.Count();
+  EXPECT_GT(count, 0);
   EXPECT_EQ(conversions, 4);
   EXPECT_EQ(clock.readings, 4);
   EXPECT_EQ(recorder_.Texts(), (Texts{"converted", "converted", "converted", "converted"}));
