@@ -59,6 +59,9 @@ std::string FindFault(const VelDictionarySource& iSource, const std::string& iPa
     return "the library '" + iPath + "' was built for platform ABI " + std::to_string(found->platformAbi) +
            ", expected " + std::to_string(velPlatformAbi);
   }
+  if (found->name != iSource.module) {
+    return "the library '" + iPath + "' is the module '" + found->name + "', expected '" + iSource.module + "'";
+  }
   const VelModuleDescription* registered = VelModuleRegistration::Find(found->name);
   if (registered != nullptr && registered != found) {
     return "the library '" + iPath + "' is a second copy of the module '" + iSource.module +
