@@ -220,7 +220,7 @@ bool VelDictionaryReader::Read(std::string_view iText, std::vector<VelDictionary
     }
   }
   if (auto fault = reading.Finish()) {
-    oFault = {line, *std::move(fault)};
+    oFault = {std::max(line, 1U), *std::move(fault)};
     return false;
   }
   return true;

@@ -42,7 +42,7 @@ struct VelDictionaryModule {
 
 /// What is wrong with a dictionary file, and where.
 struct VelDictionaryFault {
-  unsigned line;
+  unsigned line;      ///< From 1; the last line for what is missing at the end.
   std::string cause;  ///< What was found and what was expected.
 };
 
