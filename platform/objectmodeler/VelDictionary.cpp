@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <set>
 #include <utility>
 
 #include "platform/base/system/VelSystemFile.h"
@@ -17,6 +18,7 @@
 namespace {
 
 constexpr std::size_t fileByteLimit = 1U << 20U;
+constexpr const char* fileNameEnd = ".dictionary";
 
 using Sources = std::vector<std::unique_ptr<VelDictionarySource>>;
 
@@ -186,6 +188,26 @@ VelDictionaryModule ToModule(const VelModuleTable& iTable, const std::vector<Vel
   return module;
 }
 
+/// Finds what the reader of dictionary files refuses and the compiler of a grid does not see.
+/// @return the fault, empty when there is none
+std::string FindGridFault(const VelDictionaryModule& iModule) {
+  std::set<std::pair<std::string_view, std::string_view>> bound;
+  for (const VelDictionaryRow& row : iModule.rows) {
+    const auto owner = std::find_if(iModule.classes.begin(), iModule.classes.end(),
+                                    [&](const VelDictionaryClass& iClass) { return iClass.name == row.className; });
+    if (owner == iModule.classes.end()) return "the class '" + row.className + "' is not declared";
+    if ((row.mechanism == VelMechanism::BOA) != (owner->kind == VelTypeOfClass::DelegatingExtension)) {
+      return "a DelegatingExtension answers by BOA and every other class by TIE, '" + row.className + "' does not";
+    }
+    if (row.mechanism == VelMechanism::BOA && row.lifetime == VelLifetime::Component) {
+      return "a BOA row lives by Reference, found Component for '" + row.className + "'";
+    }
+    if (bound.emplace(row.lateType, row.interfaceName).second) continue;
+    return "'" + row.interfaceName + "' is bound to '" + row.lateType + "' twice";
+  }
+  return {};
+}
+
 /// Gives the rows of a linked module their functions, which need no library.
 void TakeFunctions(const VelModuleTable& iTable, const std::vector<VelModuleRow>& iRows,
                    VelDictionarySource& ioSource) {
@@ -229,7 +251,7 @@ HRESULT VelDictionary::LoadFile(const std::string& iPath) {
 HRESULT VelDictionary::LoadFolder(const std::string& iPath) {
   std::vector<std::string> names;
   std::string cause;
-  if (FAILED(VelSystemFile::ListFolder(iPath, ".dictionary", names, cause))) {
+  if (FAILED(VelSystemFile::ListFolder(iPath, fileNameEnd, names, cause))) {
     VelReportDictionaryError({}, 0, "the dictionary folder '" + iPath + "' cannot be read: " + cause);
     return E_FAIL;
   }
@@ -245,7 +267,15 @@ HRESULT VelDictionary::Unload(const std::string& iPath) {
   std::string cause;
   // A file that is gone meanwhile is known by the path that it was found under.
   if (FAILED(VelSystemFile::CanonicalPath(iPath, path, cause))) path = iPath;
-  return RemoveAllOf(path) ? S_OK : S_FALSE;
+  bool removed = RemoveAllOf(path);
+  // What a link in a folder leads to is loaded under its own path.
+  std::vector<std::string> names;
+  if (FAILED(VelSystemFile::ListFolder(path, fileNameEnd, names, cause))) return removed ? S_OK : S_FALSE;
+  for (const std::string& name : names) {
+    std::string file;
+    if (SUCCEEDED(VelSystemFile::CanonicalPath(path + '/' + name, file, cause))) removed |= RemoveAllOf(file);
+  }
+  return removed ? S_OK : S_FALSE;
 }
 
 HRESULT VelDictionary::Declare(const VelModuleTable& iTable) {
@@ -253,7 +283,12 @@ HRESULT VelDictionary::Declare(const VelModuleTable& iTable) {
     if (source->file.empty() && source->module == iTable.name) return S_FALSE;
   }
   const std::vector<VelModuleRow> rows = RowsOf(iTable);
-  VelDictionarySource* source = Enter(ToModule(iTable, rows), {});
+  const VelDictionaryModule module = ToModule(iTable, rows);
+  if (const std::string fault = FindGridFault(module); !fault.empty()) {
+    VelReportDictionaryError({}, 0, "the grid of the linked module '" + module.name + "' is faulty: " + fault);
+    return E_FAIL;
+  }
+  VelDictionarySource* source = Enter(module, {});
   if (source == nullptr) return E_FAIL;
   TakeFunctions(iTable, rows, *source);
   return S_OK;
