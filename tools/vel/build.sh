@@ -45,7 +45,7 @@ test_command() {
 run_tests() {
   set_up "$1"
   build_preset "$1"
-  ctest --test-dir "build/$1" --output-on-failure --no-tests=error -j "$jobs"
+  ctest --preset "$1" --no-tests=error -j "$jobs"
 }
 
 # One entry of the release build's CMake cache.
