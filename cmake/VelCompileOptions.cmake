@@ -32,6 +32,8 @@ add_library(VelCompileOptions INTERFACE)
 target_compile_options(
   VelCompileOptions
   INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror -ffp-contract=off
+            # Calls between libraries go straight through their address; a library's calls to itself are direct.
+            -fno-plt $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>
             # What a precompiled header needs so that ccache can see through it.
             $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess> $<$<CXX_COMPILER_ID:Clang>:-fpch-instantiate-templates>)
 if(VEL_SANITIZE)

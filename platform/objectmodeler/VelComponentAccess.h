@@ -34,6 +34,11 @@ class VelComponentAccess {
   /// Destroys what was built, the youngest first.
   static void DestroyImplementations(VelLivePart& ioLive) noexcept;
 
+  /// Drops a reference, as VelComponent::Release.
+  static void Release(VelComponent& ioComponent) noexcept {
+    if (--ioComponent.count_ == 0) ioComponent.OnUnreferenced();
+  }
+
   /// @return what was built before an implementation for the same component, null for the first
   static VelImplementation* Older(const VelImplementation& iImplementation) noexcept { return iImplementation.next_; }
 };

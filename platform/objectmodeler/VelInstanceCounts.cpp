@@ -4,7 +4,12 @@
 #include "platform/objectmodeler/VelInstanceCounts.h"
 
 #include "platform/objectmodeler/VelInstanceCounter.h"
+#include "platform/objectmodeler/VelTiePool.h"
 
 constinit VelInstanceCounts velInstanceCounter{};
 
-VelInstanceCounts VelInstanceCounts::Now() noexcept { return velInstanceCounter; }
+VelInstanceCounts VelInstanceCounts::Now() noexcept {
+  VelInstanceCounts counts = velInstanceCounter;
+  counts.forwarders = VelTiePool::CountTaken();
+  return counts;
+}

@@ -3,9 +3,9 @@
 /// @file VelInterfaceId.cpp Hands out the numbers of interface names.
 #include "platform/objectmodeler/VelInterfaceId.h"
 
-#include <map>
+#include <deque>
 #include <string>
-#include <vector>
+#include <unordered_map>
 
 #include "platform/objectmodeler/VelMetaClass.h"
 
@@ -13,8 +13,8 @@ namespace {
 
 /// The names by number and the numbers by name. Never destroyed: identifiers are used to the end of the process.
 struct Names {
-  std::map<std::string, std::uint32_t, std::less<>> numbers;
-  std::vector<std::string_view> names;
+  std::unordered_map<std::string_view, std::uint32_t> numbers;
+  std::deque<std::string> names;
 };
 
 Names& AllNames() {
@@ -33,7 +33,7 @@ std::uint32_t VelInterfaceId::IndexOf(std::string_view iName) {
   Names& all = AllNames();
   if (const auto known = all.numbers.find(iName); known != all.numbers.end()) return known->second;
   const auto number = static_cast<std::uint32_t>(all.names.size());
-  all.names.push_back(all.numbers.emplace(std::string(iName), number).first->first);
+  all.numbers.emplace(all.names.emplace_back(iName), number);
   return number;
 }
 
@@ -43,7 +43,7 @@ std::uint32_t VelInterfaceId::FindIndex(std::string_view iName) noexcept {
 }
 
 std::string_view VelInterfaceId::NameOf(std::uint32_t iIndex) noexcept {
-  return iIndex < AllNames().names.size() ? AllNames().names[iIndex] : std::string_view();
+  return iIndex < AllNames().names.size() ? std::string_view(AllNames().names[iIndex]) : std::string_view();
 }
 
 const VelMetaClass& VelInterfaceId::MetaObject() const noexcept {

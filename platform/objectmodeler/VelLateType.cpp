@@ -8,7 +8,6 @@
 
 #include "platform/objectmodeler/VelModuleOpener.h"
 
-std::uint64_t VelLateType::generation = 1;
 VelBinding VelLateType::unanswered{};
 
 namespace {
@@ -102,14 +101,18 @@ VelBinding* VelLateType::MainImplementation() {
 VelBinding* VelLateType::FindAnswer(std::uint32_t iInterfaceIndex) {
   VelBinding* row = Declared(iInterfaceIndex);
   if (row != nullptr && !VelModuleOpener::EnsureOpen(*row)) row = nullptr;
-  // Opening a library can add rows and meta-classes, so the answers are brought up to date only now.
-  CatchUp(iInterfaceIndex);
+  // Opening a library can add rows and meta-classes, which makes every answer forgotten, so there is room made only
+  // now.
+  if (iInterfaceIndex >= answerCount_) {
+    answerStorage_.resize(answerCount_);
+    answerStorage_.resize(iInterfaceIndex + 1, &unanswered);
+    answers_ = answerStorage_.data();
+    answerCount_ = answerStorage_.size();
+  }
   answers_[iInterfaceIndex] = row;
   return row;
 }
 
-void VelLateType::CatchUp(std::uint32_t iInterfaceIndex) {
-  if (generation_ != generation) answers_.clear();
-  generation_ = generation;
-  if (iInterfaceIndex >= answers_.size()) answers_.resize(iInterfaceIndex + 1, &unanswered);
+void VelLateType::ForgetAnswers() noexcept {
+  for (const auto& [name, type] : AllTypes()) type->answerCount_ = 0;
 }

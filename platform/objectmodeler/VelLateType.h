@@ -56,7 +56,7 @@ class VelLateType {
   static VelLateType& BaseByClass(std::string_view iName) noexcept;
 
   /// Makes every late type forget its answers; called whenever rows or bases change.
-  static void ForgetAnswers() noexcept { ++generation; }
+  static void ForgetAnswers() noexcept;
 
   const std::string& Name() const noexcept { return name_; }
 
@@ -86,7 +86,7 @@ class VelLateType {
   /// or
   ///         symbols are missing. Remembered until the dictionary changes.
   VelBinding* Answer(std::uint32_t iInterfaceIndex) {
-    if (generation_ == generation && iInterfaceIndex < answers_.size()) {
+    if (iInterfaceIndex < answerCount_) {
       VelBinding* known = answers_[iInterfaceIndex];
       if (known != &unanswered) return known;
     }
@@ -104,13 +104,12 @@ class VelLateType {
   bool LeadsBackToThis(const VelLateType& iBase) const noexcept;
 
   VelBinding* FindAnswer(std::uint32_t iInterfaceIndex);
-  void CatchUp(std::uint32_t iInterfaceIndex);
 
-  static std::uint64_t generation;
   static VelBinding unanswered;
 
-  std::uint64_t generation_ = 0;
-  std::vector<VelBinding*> answers_;  ///< By interface number.
+  VelBinding** answers_ = nullptr;  ///< By interface number; points into answerStorage_.
+  std::size_t answerCount_ = 0;     ///< 0 while everything is forgotten.
+  std::vector<VelBinding*> answerStorage_;
   std::vector<VelBinding*> rows_;
   std::string name_;
   VelLateType* base_ = nullptr;

@@ -4,8 +4,6 @@
 #ifndef PLATFORM_OBJECTMODELER_VELTIEPOOL_H
 #define PLATFORM_OBJECTMODELER_VELTIEPOOL_H
 
-#include "platform/objectmodeler/VelInstanceCounter.h"
-
 #if defined(__SANITIZE_ADDRESS__)
 #define VEL_TIE_POOL_BYPASSED
 #elif defined(__has_feature)
@@ -20,7 +18,6 @@
 class VelTiePool {
  public:
   static void* Take() {
-    ++velInstanceCounter.forwarders;
     if (free == nullptr) return Refill();
     Block* const block = free;
     free = block->next;
@@ -28,7 +25,6 @@ class VelTiePool {
   }
 
   static void Give(void* iBlock) noexcept {
-    --velInstanceCounter.forwarders;
 #if defined(VEL_TIE_POOL_BYPASSED)
     Discard(iBlock);
 #else
@@ -37,6 +33,9 @@ class VelTiePool {
     free = block;
 #endif
   }
+
+  /// @return the forwarders that are alive; it walks the free list, so that taking and giving need not count
+  static int CountTaken() noexcept;
 
  private:
   struct Block {
@@ -47,6 +46,7 @@ class VelTiePool {
   static void Discard(void* iBlock) noexcept;
 
   static Block* free;
+  static int made;  ///< The blocks that exist, taken or free.
 };
 
 #endif  // PLATFORM_OBJECTMODELER_VELTIEPOOL_H

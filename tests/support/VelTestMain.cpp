@@ -13,9 +13,12 @@
 #include "platform/objectmodeler/VelInstanceCounts.h"
 #include "platform/trace/VelTraceService.h"
 
-// The C library keeps what it splits LOCPATH into; it is the loader of the comma locale, not the system under test.
-extern "C" VEL_EXPORT const char* __lsan_default_suppressions();  // NOLINT: the name is the sanitizer's
-extern "C" const char* __lsan_default_suppressions() { return "leak:argz_add_sep\n"; }  // NOLINT
+// The C library keeps what it splits LOCPATH into; it is the loader of the comma locale, not the system under test. The
+// table of what was suppressed would end up in what death tests read. The names are the sanitizer's.
+extern "C" VEL_EXPORT const char* __lsan_default_suppressions();                                   // NOLINT
+extern "C" VEL_EXPORT const char* __lsan_default_suppressions() { return "leak:argz_add_sep\n"; }  // NOLINT
+extern "C" VEL_EXPORT const char* __lsan_default_options();                                        // NOLINT
+extern "C" VEL_EXPORT const char* __lsan_default_options() { return "print_suppressions=0"; }      // NOLINT
 
 namespace {
 
