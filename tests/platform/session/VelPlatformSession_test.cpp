@@ -15,6 +15,7 @@
 #include "platform/base/VelCallOnExit.h"
 #include "platform/base/VelThreadBinding.h"
 #include "platform/objectmodeler/VelDictionary.h"
+#include "platform/trace/QrnSysTrace.h"
 #include "platform/trace/VelTraceRecorder.h"
 #include "platform/trace/VelTraceService.h"
 
@@ -240,6 +241,29 @@ TEST_F(VelPlatformSessionTest, ServiceThatFails_EndsThoseStartedBeforeIt) {
   EXPECT_FALSE(session.IsRunning());
   Participant::notes = nullptr;
   Second().result = S_OK;
+}
+
+using VelPlatformSessionDeathTest = VelPlatformSessionTest;
+
+TEST_F(VelPlatformSessionDeathTest, ExitHooks_AtProcessExit_StillHaveTracesAndTheDictionary) {
+  const std::string file = Write("one.dictionary", "SessionOne");
+  EXPECT_EXIT(
+      {
+        VelTraceService::Reset();
+        // The session is left running: the process ends without it.
+        auto& session = *new VelPlatformSession;
+        if (FAILED(session.Start({.dictionaries = {file}}))) std::exit(1);
+        VelCallOnExit(
+            [](int) {
+              QrnSysTrace* trace = QrnSysTraceCreate("ExitHook");
+              trace->Warning("framework %s", VelQueryFramework("SessionOne", "VelTestISession"));
+              QrnSysTraceDestroy(trace);
+              return 0;
+            },
+            3);
+        std::exit(0);
+      },
+      ::testing::ExitedWithCode(0), "ExitHook: framework SessionTests");
 }
 
 TEST_F(VelPlatformSessionTest, Session_BindsItsThread) {
