@@ -133,19 +133,22 @@ TEST_F(VelMetaClassTest, LateType_ClimbsToTheBasesOfTheMetaClassOfItsName) {
 
 // A dictionary says that the base derives from the derived one; the classes, which are known only later, say the
 // opposite.
-TEST_F(VelMetaClassTest, ClimbThroughClassesThatContradictTheDictionary_Ends) {
-  ASSERT_EQ(scope_.LoadModule("a.dictionary", "VelTestOne",
-                              "type VelTestLoopBase VelTestLoopDerived\nclass C Implementation\n"
-                              "bind VelTestLoopDerived VelITestNumber TIE Component C\n"),
-            S_OK);
-  const VelMetaClass& derived = Make("VelTestLoopDerived", &Make("VelTestLoopBase"));
-  for (const char* lateType : {"VelTestLoopBase", "VelTestLoopDerived"}) {
-    SCOPED_TRACE(lateType);
-    EXPECT_TRUE(Offers(lateType, IID_VelITestNumber));
-    EXPECT_FALSE(Offers(lateType, IID_VelITestText));
-    EXPECT_EQ(Ask(lateType, IID_VelITestText), E_NOINTERFACE);
-  }
-  EXPECT_EQ(InterfacesOf(derived), Texts{"VelITestNumber"});
+TEST(VelMetaClassAloneTest, ClimbThroughClassesThatContradictTheDictionary_Ends) {
+  RunAlone([] {
+    DictionaryScope scope;
+    ASSERT_EQ(scope.LoadModule("a.dictionary", "VelTestOne",
+                               "type VelTestLoopBase VelTestLoopDerived\nclass C Implementation\n"
+                               "bind VelTestLoopDerived VelITestNumber TIE Component C\n"),
+              S_OK);
+    const VelMetaClass& derived = Make("VelTestLoopDerived", &Make("VelTestLoopBase"));
+    for (const char* lateType : {"VelTestLoopBase", "VelTestLoopDerived"}) {
+      SCOPED_TRACE(lateType);
+      EXPECT_TRUE(Offers(lateType, IID_VelITestNumber));
+      EXPECT_FALSE(Offers(lateType, IID_VelITestText));
+      EXPECT_EQ(Ask(lateType, IID_VelITestText), E_NOINTERFACE);
+    }
+    EXPECT_EQ(InterfacesOf(derived), Texts{"VelITestNumber"});
+  });
 }
 
 TEST(VelMetaClassAloneTest, ListOfSupportedInterface_OpensNoLibrary) {
