@@ -20,6 +20,7 @@ class VelUnicodeString;
 /// it was made from; within one call of VelFormat or of a trace that is never a concern.
 class VEL_PLATFORM_API VelFormatArgument {
  public:
+  // NOLINTBEGIN(google-explicit-constructor): arguments are written as plain values
   /// What an argument is, which together with the placeholder decides how it prints.
   enum class Kind : std::uint8_t { Boolean, Signed, Unsigned, Real, Text, Pointer };
 
@@ -55,6 +56,7 @@ class VEL_PLATFORM_API VelFormatArgument {
   /// Any pointer that is not a text.
   VelFormatArgument(const void* iPointer) noexcept : pointer_(iPointer), kind_(Kind::Pointer), width_(sizeof(void*)) {}
   VelFormatArgument(std::nullptr_t) noexcept : VelFormatArgument(static_cast<const void*>(nullptr)) {}
+  // NOLINTEND(google-explicit-constructor)
 
   [[nodiscard]] Kind GetKind() const noexcept { return kind_; }
 

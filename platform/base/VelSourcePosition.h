@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
-/// @file VelSourcePosition.h Where in the sources a message was raised, in the form that every report of the system prints.
+/// @file VelSourcePosition.h Where in the sources a message was raised, in the form that every report of the system
+/// prints.
 #ifndef PLATFORM_BASE_VELSOURCEPOSITION_H
 #define PLATFORM_BASE_VELSOURCEPOSITION_H
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
-/// @file VelVisibility.h How a symbol leaves a shared library and how it enters another; each library's own macro is made from these.
+/// @file VelVisibility.h How a symbol leaves a shared library and how it enters another; each library's own macro is
+/// made from these.
 #ifndef PLATFORM_BASE_VELVISIBILITY_H
 #define PLATFORM_BASE_VELVISIBILITY_H
 

@@ -17,7 +17,7 @@ constinit int conversions = 0;
 
 /// Notices when a message asks for its value.
 struct NoticingArgument {
-  operator VelFormatArgument() const {
+  operator VelFormatArgument() const {  // NOLINT(google-explicit-constructor): as the arguments that it stands for
     ++conversions;
     return "converted";
   }
