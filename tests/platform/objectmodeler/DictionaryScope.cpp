@@ -93,7 +93,8 @@ std::string BuiltDictionary(std::string_view iModule) {
   return std::string(VEL_TEST_LIBRARY_FOLDER) + "/dictionaries/" + std::string(iModule) + ".dictionary";
 }
 
-void RunAlone(void (*iBody)()) {
+// The macro is most of what the function is.
+void RunAlone(void (*iBody)()) {  // NOLINT(readability-function-size)
   EXPECT_EXIT(
       {
         iBody();

@@ -119,7 +119,7 @@ TEST_P(VelBindingGridAnswersTest, EachLateType_IsAnsweredByTheClassesOfTheGrid) 
     SCOPED_TRACE(each.lateType);
     EXPECT_EQ(AnsweringClass(each.lateType, IID_VelITestNumber), each.number);
     EXPECT_EQ(AnsweringClass(each.lateType, IID_VelITestText), each.text);
-    const bool known = std::string_view(each.number) != "";
+    const bool known = !std::string_view(each.number).empty();
     EXPECT_EQ(Offers(each.lateType, IID_VelITestNumber), known);
     EXPECT_EQ(Offers(each.lateType, IID_VelITestText), known) << "what may decline is offered all the same";
     EXPECT_EQ(VelQueryFramework(each.lateType, "VelITestNumber"), known ? "TestFramework" : "");

@@ -225,17 +225,29 @@ TEST_F(VelDictionaryTest, BaseThatTwoFilesDeclare_StaysUntilBothAreGone) {
   EXPECT_EQ(scope_.TakeErrors(), Texts{});
 }
 
-TEST_F(VelDictionaryTest, CachedAnswer_IsForgotten_WhenItsFileIsUnloadedAndLoadedAgain) {
-  const VelBaseUnknown_var hObject = VelObject::Create("VelTestGridThing", "VelTestDictionaryObject");
+// One file declares rows alone, the other a base alone, so that neither makes up for what the other does not forget.
+TEST_F(VelDictionaryTest, CachedAnswer_IsForgotten_WhenItsRowsOrBasesAreUnloadedAndLoadedAgain) {
+  const std::string rows = ModuleText(
+      "VelTestGrid",
+      "class VelTestGridMain Implementation\nbind VelTestDictBase VelITestNumber TIE Component VelTestGridMain\n",
+      BuiltLibrary("VelTestGrid"));
+  scope_.Write("rows", rows);
+  scope_.Write("base", ModuleText("VelTestBase", "type VelTestDictDerived VelTestDictBase\n"));
+  const VelBaseUnknown_var hObject = VelObject::Create("VelTestDictDerived", "VelTestDictionaryObject");
   VelBaseUnknown_var hAnswer;
-  for (int round = 0; round < 2; ++round) {
-    SCOPED_TRACE(round);
-    EXPECT_EQ(hObject->QueryInterface(IID_VelITestNumber, hAnswer.Receive()), E_NOINTERFACE);
-    EXPECT_EQ(hObject->QueryInterface(IID_VelITestNumber, hAnswer.Receive()), E_NOINTERFACE) << "remembered";
-    ASSERT_EQ(VelDictionary::LoadFile(BuiltDictionary("VelTestGrid")), S_OK);
-    EXPECT_EQ(hObject->QueryInterface(IID_VelITestNumber, hAnswer.Receive()), S_OK);
-    EXPECT_EQ(hObject->QueryInterface(IID_VelITestNumber, hAnswer.Receive()), S_OK) << "remembered";
-    ASSERT_EQ(VelDictionary::Unload(BuiltDictionary("VelTestGrid")), S_OK);
+  const auto expect = [&](HRESULT iCode) {
+    EXPECT_EQ(hObject->QueryInterface(IID_VelITestNumber, hAnswer.Receive()), iCode);
+    EXPECT_EQ(hObject->QueryInterface(IID_VelITestNumber, hAnswer.Receive()), iCode) << "remembered";
+  };
+  ASSERT_EQ(VelDictionary::LoadFile(scope_.Path("base")), S_OK);
+  ASSERT_EQ(VelDictionary::LoadFile(scope_.Path("rows")), S_OK);
+  expect(S_OK);
+  for (const char* changed : {"rows", "base"}) {
+    SCOPED_TRACE(changed);
+    ASSERT_EQ(scope_.Unload(changed), S_OK);
+    expect(E_NOINTERFACE);
+    ASSERT_EQ(VelDictionary::LoadFile(scope_.Path(changed)), S_OK);
+    expect(S_OK);
   }
   EXPECT_EQ(scope_.TakeErrors(), Texts{});
 }
@@ -334,6 +346,19 @@ TEST_F(VelDictionaryTest, LinkedTable_IsDeclaredOnce_AndTakenOutOnce) {
   EXPECT_EQ(VelQueryFramework("VelTestLinkedDerived", "VelITestNumber"), "");
   EXPECT_EQ(VelDictionary::Undeclare(table), S_FALSE);
   EXPECT_EQ(scope_.TakeErrors(), Texts{});
+}
+
+TEST_F(VelDictionaryTest, LinkedClassOfTwoLateTypes_ExtendsWithWhatItAnswersOnTheFirst) {
+  const VelModuleRow rows[] = {LinkedRow("VelTestLinkedClass"),
+                               {"VelTestLinkedSecond", "VelITestText", VelMechanism::TIE, VelLifetime::Component,
+                                "VelTestLinkedClass", nullptr, nullptr}};
+  const VelModuleExtend extends[] = {{"VelTestLinkedOther", "VelTestLinkedClass"}};
+  const VelModuleTable table{"VelTestLinked", "LinkedFramework", linkedTypes, linkedClasses, rows, extends};
+  ASSERT_EQ(VelDictionary::Declare(table), S_OK);
+  EXPECT_TRUE(Offers("VelTestLinkedSecond", IID_VelITestText));
+  EXPECT_TRUE(Offers("VelTestLinkedOther", IID_VelITestNumber));
+  EXPECT_FALSE(Offers("VelTestLinkedOther", IID_VelITestText));
+  EXPECT_EQ(VelDictionary::Undeclare(table), S_OK);
 }
 
 TEST_F(VelDictionaryTest, LinkedTableThatContradictsAFile_IsRefused) {

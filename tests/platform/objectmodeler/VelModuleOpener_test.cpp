@@ -187,6 +187,12 @@ TEST_F(VelModuleOpenerTest, EachRowOfARefusedLibrary_IsReportedOnce_AndAgainWhen
     for (int i = 0; i < 2; ++i) {
       EXPECT_EQ(Ask("VelTestOpenThing", IID_VelITestNumber), E_NOINTERFACE);
       EXPECT_EQ(Ask("VelTestOpenThing", IID_VelITestText), E_NOINTERFACE);
+      EXPECT_EQ(Ask("VelTestOpenDerived", IID_VelITestText), E_NOINTERFACE);
+      // Another file makes every answer be looked up anew, but opens nothing a second time.
+      ASSERT_EQ(scope_.LoadModule("b.dictionary", "VelTestOther", "type VelTestOpenDerived VelTestOpenThing\n"), S_OK);
+      EXPECT_EQ(Ask("VelTestOpenThing", IID_VelITestNumber), E_NOINTERFACE);
+      EXPECT_EQ(Ask("VelTestOpenDerived", IID_VelITestText), E_NOINTERFACE);
+      ASSERT_EQ(scope_.Unload("b.dictionary"), S_OK);
     }
     EXPECT_EQ(scope_.TakeErrors(), (Texts{"a.dictionary:6: bind VelTestOpenThing VelITestNumber" + cause,
                                           "a.dictionary:7: bind VelTestOpenThing VelITestText" + cause}));
