@@ -111,6 +111,17 @@ HRESULT VelSystemFile::CanonicalPath(const std::string& iPath, std::string& oPat
   return S_OK;
 }
 
+bool VelSystemFile::Exists(const std::string& iPath) {
+  struct stat status {};
+  return iPath.find('\0') == std::string::npos && ::stat(iPath.c_str(), &status) == 0;
+}
+
+std::string VelSystemFile::FolderOf(const std::string& iPath) {
+  const std::size_t slash = iPath.rfind('/');
+  if (slash == std::string::npos) return ".";
+  return iPath.substr(0, std::max<std::size_t>(slash, 1));
+}
+
 HRESULT VelSystemFile::FileIdentity(const std::string& iPath, VelSystemFileIdentity& oIdentity, std::string& oCause) {
   VEL_RETURN_IF_FAILED(CheckPath(iPath, oCause));
   struct stat status {};

@@ -44,6 +44,13 @@ class VelSystemFile {
   /// - E_FAIL: it does not exist or cannot be reached
   VEL_PLATFORM_API static HRESULT CanonicalPath(const std::string& iPath, std::string& oPath, std::string& oCause);
 
+  /// @return true when the path leads to a file or folder, through symbolic links
+  VEL_PLATFORM_API static bool Exists(const std::string& iPath);
+
+  /// Takes the last name off a path, which nobody looks up.
+  /// @return what stands before the last slash; "/" where that slash begins the path, "." where there is none
+  VEL_PLATFORM_API static std::string FolderOf(const std::string& iPath);
+
   /// Tells which file or folder a path leads to, through symbolic links.
   /// @return as CanonicalPath
   VEL_PLATFORM_API static HRESULT FileIdentity(const std::string& iPath, VelSystemFileIdentity& oIdentity,

@@ -163,6 +163,52 @@ TEST_F(VelSystemFileTest, CanonicalPath_OfNothing_RefusesWithACause) {
   EXPECT_EQ(path, "before");
 }
 
+TEST_F(VelSystemFileTest, Exists_IsTrueForWhateverIsReachedThroughLinks) {
+  const std::string file = folder_.Write("file", "");
+  std::filesystem::create_directory(folder_.Path("sub"));
+  std::filesystem::create_symlink("file", folder_.Path("link"));
+  std::filesystem::create_symlink("sub", folder_.Path("folder link"));
+  std::filesystem::create_symlink("absent", folder_.Path("dangling"));
+  std::filesystem::create_symlink("loop", folder_.Path("loop"));
+  struct Case {
+    const char* name;
+    std::string path;
+    bool expected;
+  };
+  const Case cases[] = {
+      {"file", file, true},
+      {"folder", folder_.Path("sub"), true},
+      {"folder with a slash", folder_.Path("sub/"), true},
+      {"link to a file", folder_.Path("link"), true},
+      {"link to a folder", folder_.Path("folder link"), true},
+      {"link to nothing", folder_.Path("dangling"), false},
+      {"link to itself", folder_.Path("loop"), false},
+      {"absent", folder_.Path("absent"), false},
+      {"below a file", file + "/below", false},
+      {"no path", "", false},
+      {"NUL behind a file", file + '\0', false},
+  };
+  for (const Case& test : cases) {
+    SCOPED_TRACE(test.name);
+    EXPECT_EQ(VelSystemFile::Exists(test.path), test.expected);
+  }
+}
+
+TEST(VelSystemFile, FolderOf_TakesTheLastNameOff) {
+  struct Case {
+    const char* path;
+    const char* expected;
+  };
+  const Case cases[] = {
+      {"/a/b/c", "/a/b"}, {"/a/b", "/a"}, {"/a", "/"},     {"/", "/"}, {"a/b", "a"},
+      {"./a", "."},       {"../a", ".."}, {"a/b/", "a/b"}, {"a", "."}, {"", "."},
+  };
+  for (const Case& test : cases) {
+    SCOPED_TRACE(test.path);
+    EXPECT_EQ(VelSystemFile::FolderOf(test.path), test.expected);
+  }
+}
+
 TEST_F(VelSystemFileTest, FileIdentity_TellsFilesApartWhateverThePath) {
   const std::string file = folder_.Write("file", "same");
   const std::string other = folder_.Write("other", "same");
