@@ -3,6 +3,7 @@
 /// @file VelTestMain.cpp The main function of every test program: it takes over the environment's locale and runs the
 /// tests.
 #include <clocale>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <locale>
