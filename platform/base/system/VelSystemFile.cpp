@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
-/// @file VelSystemFile.cpp Reads files, lists folders and tells files apart.
+/// @file VelSystemFile.cpp Reads files, lists folders and resolves paths.
 #include "platform/base/system/VelSystemFile.h"
 
 #include <dirent.h>
@@ -120,12 +120,4 @@ std::string VelSystemFile::FolderOf(const std::string& iPath) {
   const std::size_t slash = iPath.rfind('/');
   if (slash == std::string::npos) return ".";
   return iPath.substr(0, std::max<std::size_t>(slash, 1));
-}
-
-HRESULT VelSystemFile::FileIdentity(const std::string& iPath, VelSystemFileIdentity& oIdentity, std::string& oCause) {
-  VEL_RETURN_IF_FAILED(CheckPath(iPath, oCause));
-  struct stat status {};
-  if (::stat(iPath.c_str(), &status) != 0) return FailWith(errno, oCause);
-  oIdentity = {static_cast<std::uint64_t>(status.st_dev), static_cast<std::uint64_t>(status.st_ino)};
-  return S_OK;
 }

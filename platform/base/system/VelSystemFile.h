@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
-/// @file VelSystemFile.h Reads files, lists folders and tells files apart.
+/// @file VelSystemFile.h Reads files, lists folders and resolves paths.
 #ifndef PLATFORM_BASE_SYSTEM_VELSYSTEMFILE_H
 #define PLATFORM_BASE_SYSTEM_VELSYSTEMFILE_H
 
@@ -10,7 +10,6 @@
 
 #include "platform/base/HResult.h"
 #include "platform/base/VelPlatformApi.h"
-#include "platform/base/system/VelSystemFileIdentity.h"
 
 /// Files by path. A path is a sequence of bytes as the system takes it; one with an embedded NUL names nothing and is
 /// refused. Where an operation fails, its result stays untouched and oCause is the reason in English, made to follow
@@ -50,11 +49,6 @@ class VelSystemFile {
   /// Takes the last name off a path, which nobody looks up.
   /// @return what stands before the last slash; "/" where that slash begins the path, "." where there is none
   VEL_PLATFORM_API static std::string FolderOf(const std::string& iPath);
-
-  /// Tells which file or folder a path leads to, through symbolic links.
-  /// @return as CanonicalPath
-  VEL_PLATFORM_API static HRESULT FileIdentity(const std::string& iPath, VelSystemFileIdentity& oIdentity,
-                                               std::string& oCause);
 };
 
 #endif  // PLATFORM_BASE_SYSTEM_VELSYSTEMFILE_H

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
-/// @file VelSystemFile_test.cpp The behaviour of reading files, listing folders and telling files apart.
+/// @file VelSystemFile_test.cpp The behaviour of reading files, listing folders and resolving paths.
 #include "platform/base/system/VelSystemFile.h"
 
 #include <gtest/gtest.h>
@@ -207,40 +207,6 @@ TEST(VelSystemFile, FolderOf_TakesTheLastNameOff) {
     SCOPED_TRACE(test.path);
     EXPECT_EQ(VelSystemFile::FolderOf(test.path), test.expected);
   }
-}
-
-TEST_F(VelSystemFileTest, FileIdentity_TellsFilesApartWhateverThePath) {
-  const std::string file = folder_.Write("file", "same");
-  const std::string other = folder_.Write("other", "same");
-  std::filesystem::create_hard_link(file, folder_.Path("hard"));
-  std::filesystem::create_symlink(file, folder_.Path("soft"));
-  struct Case {
-    const char* name;
-    std::string path;
-    bool same;
-  };
-  const Case cases[] = {{"itself", file, true},
-                        {"hard link", folder_.Path("hard"), true},
-                        {"symbolic link", folder_.Path("soft"), true},
-                        {"with a dot", folder_.Path("./file"), true},
-                        {"a file of the same content", other, false},
-                        {"its folder", folder_.Path(), false}};
-  VelSystemFileIdentity first;
-  ASSERT_EQ(VelSystemFile::FileIdentity(file, first, cause_), S_OK);
-  for (const Case& test : cases) {
-    SCOPED_TRACE(test.name);
-    VelSystemFileIdentity second;
-    EXPECT_EQ(VelSystemFile::FileIdentity(test.path, second, cause_), S_OK);
-    EXPECT_EQ(first == second, test.same);
-  }
-}
-
-TEST_F(VelSystemFileTest, FileIdentity_OfNothing_RefusesWithACause) {
-  VelSystemFileIdentity identity{1, 2};
-  EXPECT_EQ(VelSystemFile::FileIdentity(folder_.Path("absent"), identity, cause_), E_FAIL);
-  EXPECT_EQ(cause_, "no such file");
-  EXPECT_EQ(VelSystemFile::FileIdentity(std::string("/\0", 2), identity, cause_), E_INVALIDARG);
-  EXPECT_EQ(identity, (VelSystemFileIdentity{1, 2}));
 }
 
 }  // namespace
