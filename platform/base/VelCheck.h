@@ -23,7 +23,7 @@ class VEL_PLATFORM_API VelFailureObserver {
 /// The non-fatal checks of the process. A report that no observer hears is one line on the standard error stream, where
 /// empty parts are left out:
 ///
-///     check failed: <expression>: <message> { detail = <detail> } [<source>:<line>]
+///     check failed: <message> { expression = <expression>, detail = <detail> } [<source>:<line>]
 ///
 /// Assertions and fatal logs start with "assertion failed" and "fatal error"; an assertion's expression stands in its
 /// message alone. Thread: the application thread. Re-entrancy: observers may raise checks, add and remove observers;

@@ -5,30 +5,12 @@
 
 #include <string>
 
-#include "platform/base/VelFormat.h"
+#include "platform/base/VelFailureText.h"
 #include "platform/trace/VelTraceRegistry.h"
-
-namespace {
-
-std::string ToText(const VelFailureReport& iReport) {
-  std::string data;
-  // The message of an assertion already holds the expression.
-  if (!iReport.expression.empty() && iReport.kind != VelFailureKind::Assertion) {
-    data = VelFormat::ToText("expression = %s", iReport.expression);
-  }
-  if (!iReport.detail.empty()) {
-    if (!data.empty()) data += ", ";
-    data += VelFormat::ToText("detail = %s", iReport.detail);
-  }
-  if (data.empty()) return std::string(iReport.message);
-  return VelFormat::ToText("%s { %s }", iReport.message, data);
-}
-
-}  // namespace
 
 void VelTraceCheckObserver::OnFailure(const VelFailureReport& iReport) {
   VelTraceRegistry& registry = VelTraceRegistry::Get();
-  const std::string text = ToText(iReport);
+  const std::string text = VelFailureText::ToText(iReport);
   VelTraceRecord record;
   record.kind = VelTraceKind::Error;
   record.text = text;

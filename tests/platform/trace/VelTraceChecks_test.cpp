@@ -23,6 +23,7 @@ const Case kCases[] = {
     {"expression", {VelFailureKind::Check, {"s", 1}, "a < b", "Odd", ""}, "Odd { expression = a < b }"},
     {"detail", {VelFailureKind::Check, {"s", 1}, "", "Odd", "7"}, "Odd { detail = 7 }"},
     {"both", {VelFailureKind::Check, {"s", 1}, "a < b", "Odd", "7"}, "Odd { expression = a < b, detail = 7 }"},
+    {"no message", {VelFailureKind::Check, {"s", 1}, "a < b", "", ""}, "{ expression = a < b }"},
     {"percent signs", {VelFailureKind::Check, {"s", 1}, "%s", "100%d", "%x"}, "100%d { expression = %s, detail = %x }"},
     {"assertion", {VelFailureKind::Assertion, {"s", 1}, "a < b", "AssertionFailed:a < b", ""}, "AssertionFailed:a < b"},
     {"fatal log", {VelFailureKind::FatalLog, {"s", 1}, "", "Lost", ""}, "Lost"},
