@@ -20,8 +20,8 @@ class VEL_PLATFORM_API VelFailureObserver {
   ~VelFailureObserver() = default;
 };
 
-/// The non-fatal checks of the process. A report that no observer hears is one line on the standard error stream, where
-/// empty parts are left out:
+/// The non-fatal checks of the process. A report that no observer hears, or that each of them throws at, is one line on
+/// the standard error stream, where empty parts are left out:
 ///
 ///     check failed: <message> { expression = <expression>, detail = <detail> } [<source>:<line>]
 ///

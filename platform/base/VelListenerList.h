@@ -42,19 +42,19 @@ class VelListenerList {
 
   /// Calls every listener that is in the list now and is not being called already. What a listener throws ends there.
   /// @param[in] iCall takes a Listener&
-  /// @return false when there was no listener to call
+  /// @return true when at least one listener was called and did not throw
   template <class Call>
   bool ForEach(Call iCall) noexcept {
-    bool called = false;
+    bool heard = false;
     ++depth_;
     const std::size_t countAtEntry = entries_.size();
     for (std::size_t index = 0; index < countAtEntry; ++index) {
       Listener* const listener = entries_[index].listener;
       if (listener == nullptr || entries_[index].busy) continue;
-      called = true;
       entries_[index].busy = true;
       try {
         iCall(*listener);
+        heard = true;
       } catch (...) {
         // A listener that fails must not keep the report from those after it, nor stop whoever raised it.
       }
@@ -62,7 +62,7 @@ class VelListenerList {
     }
     --depth_;
     DropRemoved();
-    return called;
+    return heard;
   }
 
  private:

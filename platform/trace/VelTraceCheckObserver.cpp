@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/base/VelFailureText.h"
+#include "platform/base/system/VelSystemStream.h"
 #include "platform/trace/VelTraceRegistry.h"
 
 void VelTraceCheckObserver::OnFailure(const VelFailureReport& iReport) {
@@ -15,6 +16,9 @@ void VelTraceCheckObserver::OnFailure(const VelFailureReport& iReport) {
   record.kind = VelTraceKind::Error;
   record.text = text;
   record.position = {iReport.position.source != nullptr ? iReport.position.source : "", iReport.position.line};
-  registry.Emit(registry.Channel("VelCheck"), record);
-  if (iReport.kind != VelFailureKind::Check) registry.Flush();
+  const bool taken = registry.Emit(registry.Channel("VelCheck"), record);
+  if (iReport.kind == VelFailureKind::Check) return;
+  registry.Flush();
+  // The process is about to stop: switches say what is worth a trace, not that it may stop without a word.
+  if (!taken) VelSystemStream::WriteToStandardError(VelFailureText::ToLine(iReport));
 }

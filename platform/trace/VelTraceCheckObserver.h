@@ -6,7 +6,8 @@
 
 #include "platform/base/VelCheck.h"
 
-/// Every report becomes an error on the channel "VelCheck". One that is about to stop the process flushes the sinks.
+/// Every report becomes an error on the channel "VelCheck". One that is about to stop the process flushes the sinks,
+/// and is a line on the standard error stream where no sink took it.
 class VelTraceCheckObserver final : public VelFailureObserver {
  public:
   void OnFailure(const VelFailureReport& iReport) override;

@@ -68,12 +68,13 @@ void VelTraceRegistry::RemoveScope(VelDiagnostics& ioScope) noexcept {
   ApplyEverywhere();
 }
 
-void VelTraceRegistry::Emit(const QrnSysTrace& iChannel, VelTraceRecord iRecord) noexcept {
+bool VelTraceRegistry::Emit(const QrnSysTrace& iChannel, VelTraceRecord iRecord) noexcept {
   try {
     iRecord.channel = iChannel.Name();
-    Deliver(iRecord, (iChannel.switched_ & QrnSysTrace::Bit(iRecord.kind)) != 0);
+    return Deliver(iRecord, (iChannel.switched_ & QrnSysTrace::Bit(iRecord.kind)) != 0);
   } catch (...) {
     // A trace that cannot be kept is lost; what it tells about goes on.
+    return false;
   }
 }
 
@@ -100,14 +101,13 @@ void VelTraceRegistry::Flush() noexcept {
   sinks_.ForEach([](VelTraceSink& ioSink) { ioSink.Flush(); });
 }
 
-void VelTraceRegistry::Deliver(VelTraceRecord& ioRecord, bool iToSinks) {
+bool VelTraceRegistry::Deliver(VelTraceRecord& ioRecord, bool iToSinks) {
   ioRecord.ticks = VelClock::Now();
   ioRecord.sequence = ++sequence_;
   if (ioRecord.kind == VelTraceKind::Warning || ioRecord.kind == VelTraceKind::Error) {
     for (VelDiagnostics* const scope : scopes_) scope->Collect(ioRecord);
   }
-  if (!iToSinks) return;
-  sinks_.ForEach([&](VelTraceSink& ioSink) { ioSink.Write(ioRecord); });
+  return iToSinks && sinks_.ForEach([&](VelTraceSink& ioSink) { ioSink.Write(ioRecord); });
 }
 
 void VelTraceRegistry::ApplySwitch(QrnSysTrace& ioChannel) const noexcept {

@@ -59,7 +59,8 @@ class VelTraceRegistry {
 
   /// Hands a message to the scopes, and to the sinks when the channel has its kind switched on. Sequence number and
   /// ticks of the record are filled in here.
-  void Emit(const QrnSysTrace& iChannel, VelTraceRecord iRecord) noexcept;
+  /// @return true when at least one sink took it
+  bool Emit(const QrnSysTrace& iChannel, VelTraceRecord iRecord) noexcept;
 
   /// Formats the text of a record, then emits it.
   /// @param[in] iFormat null counts as the empty text
@@ -74,7 +75,8 @@ class VelTraceRegistry {
  private:
   VelTraceRegistry();
 
-  void Deliver(VelTraceRecord& ioRecord, bool iToSinks);
+  /// @return true when at least one sink took the record
+  bool Deliver(VelTraceRecord& ioRecord, bool iToSinks);
   void ApplySwitch(QrnSysTrace& ioChannel) const noexcept;
   void ApplyEverywhere() noexcept;
 

@@ -12,7 +12,9 @@ class VelTraceSink;
 
 /// The process-wide settings of the traces. By default every channel lets warnings and errors through, to the standard
 /// error stream. From the first use of any trace on, every check (VelCheck) is an error on the channel "VelCheck";
-/// before that it is a line on the standard error stream. Thread: the application thread.
+/// before that it is a line on the standard error stream. An assertion or a fatal log that no sink takes, because its
+/// channel is off, no sink is there or the traces are out of service, is such a line, too. Thread: the application
+/// thread.
 class VEL_PLATFORM_API VelTraceService {
  public:
   /// Adds a sink at the end of the list. Not owned; remove it before it dies. Adding one twice changes nothing.

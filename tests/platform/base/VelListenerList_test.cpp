@@ -111,6 +111,14 @@ TEST_F(VelListenerListTest, Listener_ThatThrows_KeepsNothingFromTheOthersAndIsCa
   EXPECT_EQ(called_, "abab");
 }
 
+TEST_F(VelListenerListTest, Walk_WhoseOnlyListenerThrows_SaysThatNobodyHeard) {
+  a_.reaction = [] { throw std::runtime_error("listener"); };
+  list_.Add(a_);
+  EXPECT_FALSE(Walk());
+  list_.Add(b_);
+  EXPECT_TRUE(Walk());
+}
+
 TEST_F(VelListenerListTest, Clear_DuringTheWalk_EndsIt) {
   a_.reaction = [this] { list_.Clear(); };
   list_.Add(a_);

@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
 /// @file VelTraceChecks_test.cpp Checks, assertions and fatal logs on their way into the traces.
+#include <memory>
+#include <stdexcept>
 #include <vector>
 
 #include "platform/base/VelCheck.h"
 #include "platform/base/VelFatalErrorService.h"
+#include "platform/trace/VelDiagnostics.h"
 #include "tests/platform/trace/TraceTest.h"
 #include "tests/support/VelFailureRecorder.h"
 
@@ -67,6 +70,60 @@ TEST_F(VelTraceChecksTest, Check_WithItsChannelOff_ReachesNoSinkAndIsNotPrinted)
   EXPECT_TRUE(recorder_.Entries().empty());
 }
 
+struct SilenceCase {
+  const char* name;
+  void (*silence)();  ///< Done after Reset, with the standard error sink in the list.
+};
+
+class ThrowingSink final : public VelTraceSink {
+ public:
+  void Write(const VelTraceRecord&) override { throw std::runtime_error("sink"); }
+  void Flush() override { throw std::runtime_error("sink"); }
+};
+
+void RemoveEverySink() { VelTraceService::RemoveSink(VelTraceService::StandardErrorSink()); }
+
+const SilenceCase silenceCases[] = {
+    {"every channel off", [] { VelTraceService::SetSwitches("*=off"); }},
+    {"channel off", [] { VelTraceService::SetSwitches("VelCheck=off"); }},
+    {"no sink", [] { RemoveEverySink(); }},
+    {"a sink that throws",
+     [] {
+       static ThrowingSink sink;
+       RemoveEverySink();
+       VelTraceService::AddSink(sink);
+     }},
+    {"out of service", [] { VelTraceService::SetAvailable(false); }},
+};
+
+TEST_F(VelTraceChecksTest, WhatStopsTheProcess_WhereNoSinkTakesIt_IsTheLineOfTheChecksThemselvesOnce) {
+  for (const SilenceCase& test : silenceCases) {
+    for (const bool collected : {false, true}) {
+      SCOPED_TRACE(testing::Message() << test.name << (collected ? ", with a scope" : ""));
+      VelTraceService::Reset();
+      const auto scope = collected ? std::make_unique<VelDiagnostics>() : nullptr;
+      test.silence();
+      EXPECT_EQ(
+          PrintedBy([] {
+            VelCheck::Publish({VelFailureKind::Assertion, {"src/Thing", 9}, "a < b", "AssertionFailed:a < b", ""});
+          }),
+          "assertion failed: AssertionFailed:a < b [src/Thing:9]\n");
+      EXPECT_EQ(PrintedBy([] {
+                  VelCheck::Publish({VelFailureKind::FatalLog, {"src/Thing", 9}, "", "Lost", ""});
+                }),
+                "fatal error: Lost [src/Thing:9]\n");
+    }
+  }
+}
+
+TEST_F(VelTraceChecksTest, WhatStopsTheProcess_WhereAnySinkTakesIt_IsNotPrintedBesides) {
+  ThrowingSink thrower;
+  VelTraceService::AddSink(thrower);
+  EXPECT_EQ(PrintedBy([] { VelCheck::Publish({VelFailureKind::FatalLog, {"s", 1}, "", "Lost", ""}); }), "");
+  EXPECT_EQ(recorder_.Texts("VelCheck"), Texts{"Lost"});
+  VelTraceService::RemoveSink(thrower);
+}
+
 TEST_F(VelTraceChecksTest, Check_ByDefault_IsPrintedByTheStreamSinkOnce) {
   VelTraceService::Reset();
   EXPECT_EQ(PrintedBy([] {
@@ -120,6 +177,32 @@ TEST(VelTraceChecksDeathTest, FatalLog_WithoutHandler_IsATraceBeforeTheAbort) {
         VelFatalErrorService::FatalLog({"src/Thing", 9}, "Lost");
       },
       "\\[error\\] VelCheck: Lost \\(src/Thing:9\\)");
+}
+
+TEST(VelTraceChecksDeathTest, FatalLog_WhereNoSinkTakesIt_IsPrintedBeforeTheAbort) {
+  for (const SilenceCase& test : silenceCases) {
+    SCOPED_TRACE(test.name);
+    EXPECT_DEATH(
+        {
+          VelTraceService::Reset();
+          test.silence();
+          VelFatalErrorService::FatalLog({"src/Thing", 9}, "Lost");
+        },
+        "^fatal error: Lost \\[src/Thing:9\\]\n$");
+  }
+}
+
+TEST(VelTraceChecksDeathTest, Assertion_WhereNoSinkTakesIt_IsPrintedBeforeTheAbort) {
+  for (const SilenceCase& test : silenceCases) {
+    SCOPED_TRACE(test.name);
+    EXPECT_DEATH(
+        {
+          VelTraceService::Reset();
+          test.silence();
+          VelFatalErrorService::AssertionFailed({"src/Thing", 9}, "a < b");
+        },
+        "^assertion failed: AssertionFailed:a < b \\[src/Thing:9\\]\n$");
+  }
 }
 
 TEST(VelTraceChecksDeathTest, Assertion_BeforeAnyTraceWasUsed_IsTheLineOfTheChecksThemselves) {
