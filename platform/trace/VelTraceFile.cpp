@@ -5,6 +5,8 @@
 
 #include "platform/base/VelCheck.h"
 
+constinit bool VelTraceFile::writesThrough = false;
+
 VelTraceFile::~VelTraceFile() { Report(file_.Close()); }
 
 HRESULT VelTraceFile::Open(const std::string& iPath, std::string& oCause) {
@@ -15,7 +17,9 @@ HRESULT VelTraceFile::Open(const std::string& iPath, std::string& oCause) {
 }
 
 void VelTraceFile::Write(std::string_view iText) {
-  if (file_.IsOpen()) Report(file_.Write(iText));
+  if (!file_.IsOpen()) return;
+  Report(file_.Write(iText));
+  if (writesThrough) Flush();
 }
 
 void VelTraceFile::Flush() {

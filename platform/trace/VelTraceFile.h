@@ -29,9 +29,14 @@ class VEL_PLATFORM_API VelTraceFile {
   void Write(std::string_view iText);
   void Flush();
 
+  /// From now on every file of the process writes each line out at once: nobody is left to flush what is kept back.
+  static void WriteThrough() noexcept { writesThrough = true; }
+
  private:
   /// Reports the first failure after the file was opened.
   void Report(HRESULT iResult);
+
+  static bool writesThrough;
 
   VelSystemAppendFile file_;
   std::string path_;

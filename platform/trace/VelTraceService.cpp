@@ -12,6 +12,7 @@
 #include "platform/base/VelEnvironment.h"
 #include "platform/base/VelFormat.h"
 #include "platform/base/VelString.h"
+#include "platform/trace/VelTraceFile.h"
 #include "platform/trace/VelTraceFileSink.h"
 #include "platform/trace/VelTraceJsonSink.h"
 #include "platform/trace/VelTraceRegistry.h"
@@ -37,6 +38,8 @@ EnvironmentSinks& GetEnvironmentSinks() {
 }
 
 void FlushEnvironmentSinks() {
+  // Exit hooks that were registered before the files were opened run after this.
+  VelTraceFile::WriteThrough();
   const EnvironmentSinks& sinks = GetEnvironmentSinks();
   if (sinks.lines != nullptr) sinks.lines->Flush();
   if (sinks.json != nullptr) sinks.json->Flush();

@@ -42,7 +42,8 @@ class VEL_PLATFORM_API VelTraceService {
   /// Takes over the environment: VEL_TRACE holds switches, VEL_TRACE_FILE the path of a file to which the lines are
   /// appended, VEL_TRACE_JSON that of a file to which one JSON object per trace is appended. A variable that is not set
   /// changes nothing, an empty path stands for no file, and a file that cannot be opened is a warning on the channel
-  /// "VelTrace". Calling it again reopens the files.
+  /// "VelTrace". Calling it again reopens the files. They also hold what exit hooks emit, whenever those were
+  /// registered.
   static void ApplyEnvironment();
 
   /// Flushes every sink.

@@ -8,6 +8,7 @@
 #include <sstream>
 #include <string>
 
+#include "platform/base/VelCallOnExit.h"
 #include "platform/base/VelCheck.h"
 #include "tests/platform/trace/FlatJson.h"
 #include "tests/platform/trace/TemporaryFile.h"
@@ -128,6 +129,31 @@ TEST(VelTraceEnvironmentDeathTest, EndOfTheProcess_WithoutReset_LeavesEverything
         std::exit(0);
       },
       ::testing::ExitedWithCode(0), "^\\[warning\\] Channel: last words\n$");
+}
+
+void WarnAtExit() { OpenChannel("Channel")->Warning("from an exit function"); }
+
+int WarnInHook(int) {
+  OpenChannel("Channel")->Warning("from an exit hook");
+  return 0;
+}
+
+TEST(VelTraceEnvironmentDeathTest, ExitHooks_RegisteredBeforeTheEnvironmentIsApplied_FindTheirTracesInTheFile) {
+  // What is registered last runs first: the traces' own, the hook, the function, the print.
+  EXPECT_EXIT(
+      {
+        ::setenv("VEL_TRACE_FILE", TemporaryFile().Path().c_str(), 1);
+        std::atexit(PrintFile);
+        std::atexit(WarnAtExit);
+        VelCallOnExit(&WarnInHook, 1);
+        VelTraceService::ApplyEnvironment();
+        VelTraceService::RemoveSink(VelTraceService::StandardErrorSink());
+        OpenChannel("Channel")->Warning("before the end");
+        std::exit(0);
+      },
+      ::testing::ExitedWithCode(0),
+      "^\\[warning\\] Channel: before the end\n\\[warning\\] Channel: from an exit hook\n"
+      "\\[warning\\] Channel: from an exit function\n$");
 }
 
 TEST(VelTraceEnvironmentDeathTest, ApplyEnvironment_BeforeAnyTrace_TurnsChecksIntoTraces) {
