@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: Apache-2.0
 /// @file main.cpp A host program that asks a component for interfaces which a library, opened on demand, answers.
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 
 #include "examples/first_component/interfaces/VelIExColor.h"
 #include "examples/first_component/interfaces/VelIExReport.h"
+#include "platform/base/VelEnvironment.h"
 #include "platform/objectmodeler/VelBaseUnknown_WR.h"
 #include "platform/objectmodeler/VelComponent.h"
 #include "platform/objectmodeler/VelDictionary.h"
@@ -52,7 +52,7 @@ void ShowDictionary(VelComponent& iSwatch) {
               iSwatch.OffersInterface(IID_VelIExColor) ? "yes" : "no", LibraryState());
 }
 
-/// @return false when the library could not be opened; the trace then says why
+/// @return false when something is not answered; the trace then says why
 bool ShowQueries(VelComponent& ioSwatch) {
   std::printf("3. The first query opens the library\n");
   const VelIExColor_var hColor(&ioSwatch);
@@ -67,6 +67,7 @@ bool ShowQueries(VelComponent& ioSwatch) {
   const HRESULT byName = hColor->QueryInterfaceByName("VelIExReport", hAnswer.Receive());
   const VelIExReport_var hReport(hAnswer);
   std::printf("   query for \"VelIExReport\": %s\n", NameOf(byName));
+  if (!hReport) return false;
   VelString text;
   const HRESULT described = hReport->Describe(text);
   std::printf("   Describe: %s: %s\n", NameOf(described), text.CString());
@@ -80,7 +81,7 @@ void ShowEnd(VelBaseUnknown_var& ioSwatch) {
   std::printf("6. The end of the component\n");
   VelIExColor_var hColor(ioSwatch);
   const VelBaseUnknown_WR weak(ioSwatch.Get());
-  static_cast<VelObject*>(ioSwatch->GetComponent())->EndLife();
+  if (VelObject* swatch = VelObject::From(ioSwatch.Get())) swatch->EndLife();
   VelExRgb color{};
   std::printf("   GetColor through a forwarder that is still held: %s\n", NameOf(hColor->GetColor(color)));
   std::printf("   the weak reference: %s\n", weak.Get() == nullptr ? "empty" : "alive");
@@ -99,11 +100,17 @@ int main(int argc, char** argv) {
       std::filesystem::path(options.dictionaries.front()).lexically_relative(std::filesystem::current_path()).c_str());
   if (FAILED(session.Start(options))) return 1;
   // What the environment switches on (VEL_TRACE) is kept; without it the demonstration shows the example's channels.
-  if (std::getenv("VEL_TRACE") == nullptr) VelTraceService::SetSwitches("VelDictionary=info, VelExSwatch*=9");
+  VelString switches;
+  if (!VelEnvironment::Get("VEL_TRACE", switches) || switches.IsEmpty()) {
+    VelTraceService::SetSwitches("VelDictionary=info, VelExSwatch*=9");
+  }
 
   VelBaseUnknown_var hSwatch = VelObject::Create("VelExSwatch", "VelExSwatchObject");
   ShowDictionary(*hSwatch->GetComponent());
-  if (!ShowQueries(*hSwatch->GetComponent())) return 1;
+  if (!ShowQueries(*hSwatch->GetComponent())) {
+    std::printf("   The lines of the channel \"VelDictionary\" say why. See docs/dictionary.md.\n");
+    return 1;
+  }
   ShowEnd(hSwatch);
   std::printf("7. The end of the session: %s\n", NameOf(session.End()));
   return 0;

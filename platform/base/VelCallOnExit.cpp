@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/base/VelCheck.h"
+#include "platform/base/VelExceptionText.h"
 
 namespace {
 
@@ -49,7 +50,8 @@ void VelPlatformTerminate() noexcept {
     try {
       hook(0);
     } catch (...) {
-      VelCheck::Failed(VEL_HERE("platform/base/VelCallOnExit"), "hook(0)", "An exit hook threw an exception");
+      VelCheck::Failed(VEL_HERE("platform/base/VelCallOnExit"), "hook(0)", "An exit hook threw an exception",
+                       VelExceptionText("hook"));
     }
   }
 }

@@ -4,6 +4,7 @@
 #include "platform/base/VelEditScope.h"
 
 #include "platform/base/VelCheck.h"
+#include "platform/base/VelExceptionText.h"
 #include "platform/base/VelListenerList.h"
 
 namespace {
@@ -21,7 +22,7 @@ void Announce(VelEditScopeListener& iListener) {
     iListener.OnEditsEnded();
   } catch (...) {
     VelCheck::Failed(VEL_HERE("platform/base/VelEditScope"), "OnEditsEnded()",
-                     "A listener of the end of edits threw an exception");
+                     "A listener of the end of edits threw an exception", VelExceptionText("listener"));
   }
 }
 

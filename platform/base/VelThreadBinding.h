@@ -25,11 +25,11 @@ class VEL_PLATFORM_API VelThreadBinding {
   static bool AssertBoundThread() noexcept;
 };
 
-/// The test of builds without NDEBUG; release builds pay nothing for it.
+/// The test of builds without NDEBUG; in release builds it is always true and costs nothing.
 #if defined(NDEBUG)
-#define VEL_ASSERT_BOUND_THREAD() static_cast<void>(0)
+#define VEL_IS_BOUND_THREAD() true
 #else
-#define VEL_ASSERT_BOUND_THREAD() static_cast<void>(VelThreadBinding::AssertBoundThread())
+#define VEL_IS_BOUND_THREAD() VelThreadBinding::AssertBoundThread()
 #endif
 
 #endif  // PLATFORM_BASE_VELTHREADBINDING_H

@@ -5,6 +5,7 @@
 
 #include "platform/objectmodeler/VelComponent.h"
 #include "platform/objectmodeler/VelMetaClass.h"
+#include "platform/trace/VelTraceHandle.h"
 
 const VelInterfaceId IID_VelBaseUnknown{"VelBaseUnknown"};
 
@@ -13,7 +14,10 @@ HRESULT VelBaseUnknown::QueryInterfaceByName(const char* iInterfaceName, VelBase
   *oInterface = nullptr;
   if (iInterfaceName == nullptr) return E_NOINTERFACE;
   const std::uint32_t number = VelInterfaceId::FindIndex(iInterfaceName);
-  if (number == VelInterfaceId::noNumber) return E_NOINTERFACE;
+  if (number == VelInterfaceId::noNumber) {
+    VelTraceHandle("VelDictionary").Info("Nobody declared the interface { name = %s }", iInterfaceName);
+    return E_NOINTERFACE;
+  }
   return QueryInterface(VelInterfaceId(iInterfaceName, number), oInterface);
 }
 

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <type_traits>
 
 #include "platform/base/HResult.h"
 #include "platform/base/VelPlatformApi.h"
@@ -23,12 +24,21 @@ enum class VelComponentState : std::uint8_t {
   Closed = 2,  ///< Removed, its document closed, or the process at its end. There is no way back.
 };
 
+/// Stands first in the public part of every interface: its identifier, and the type by which handles know that the
+/// interface has one of its own.
+#define VEL_INTERFACE(Name)                                                  \
+  using VelThisInterface = Name;                                             \
+  static const VelInterfaceId& InterfaceId() noexcept { return IID_##Name; } \
+  static_assert(true, "so that the line ends like a declaration")
+
 /// The root of all interfaces. A pointer to it is one of three things: a component (the identity of one object), an
 /// implementation that lives in a component, or a forwarder or extension that answers one interface of a component.
 ///
 /// Thread: the application thread. Reference counts are plain integers.
 class VEL_PLATFORM_API VelBaseUnknown {
  public:
+  VEL_INTERFACE(VelBaseUnknown);
+
   /// Asks the component behind this pointer for an interface.
   /// @param[in] iInterface the identifier of the interface
   /// @param[out] oInterface the interface with one reference for the caller; always written, null on failure
@@ -61,6 +71,8 @@ class VEL_PLATFORM_API VelBaseUnknown {
   /// Asks for the interface of the out argument's type; as QueryInterface.
   template <class Interface>
   HRESULT Query(Interface** oInterface) noexcept {
+    static_assert(std::is_same_v<typename Interface::VelThisInterface, Interface>,
+                  "An interface begins with VEL_INTERFACE, also one that derives from another");
     if (oInterface == nullptr) return E_INVALIDARG;
     VelBaseUnknown* answer = nullptr;
     const HRESULT code = QueryInterface(Interface::InterfaceId(), &answer);
@@ -82,8 +94,6 @@ class VEL_PLATFORM_API VelBaseUnknown {
 
   /// @return true when GetMetaObject() is the named class or derives from it
   bool IsAKindOf(std::string_view iClassName) const noexcept;
-
-  static const VelInterfaceId& InterfaceId() noexcept { return IID_VelBaseUnknown; }
 
  protected:
   VelBaseUnknown() = default;

@@ -6,7 +6,7 @@
 
 #include "platform/base/HResult.h"
 #include "platform/base/VelPlatformApi.h"
-#include "platform/objectmodeler/VelBaseUnknown.h"
+#include "platform/objectmodeler/VelComponent.h"
 
 struct VelLivePart;
 
@@ -37,10 +37,9 @@ class VEL_PLATFORM_API VelBaseUnknown_WR {
   template <class Interface>
   HRESULT Query(Interface** oInterface) const noexcept {
     if (oInterface == nullptr) return E_INVALIDARG;
-    VelBaseUnknown* answer = nullptr;
-    const HRESULT code = QueryInterface(Interface::InterfaceId(), &answer);
-    *oInterface = static_cast<Interface*>(answer);
-    return code;
+    *oInterface = nullptr;
+    VelComponent* component = Get();
+    return component != nullptr ? component->Query(oInterface) : E_FAIL;
   }
 
  private:

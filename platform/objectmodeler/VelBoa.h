@@ -5,6 +5,7 @@
 #define PLATFORM_OBJECTMODELER_VELBOA_H
 
 #include <cstdint>
+#include <type_traits>
 
 #include "platform/base/VelPlatformApi.h"
 #include "platform/objectmodeler/VelComponent.h"
@@ -19,10 +20,14 @@ class VEL_PLATFORM_API VelBoaCounter {
 };
 
 /// An extension that is its own interface object: it needs no forwarder, is made for each query and lives while it is
-/// referenced. It holds one reference on its component. The derived class answers for the state of the component
-/// itself: IsClosed() tells.
+/// referenced. It holds one reference on its component. No forwarder stands in front of it, so the derived class itself
+/// answers for the state of the component (IsClosed() tells), lets no exception out (the null-handle error included),
+/// and pins the component (VelPin) where an operation may end it.
 template <class Interface>
 class VelBoa : public Interface {
+  static_assert(std::is_same_v<typename Interface::VelThisInterface, Interface>,
+                "An interface begins with VEL_INTERFACE");
+
  public:
   explicit VelBoa(VelComponent& iComponent) noexcept : component_(&iComponent) { component_->AddRef(); }
   VelBoa(const VelBoa&) = delete;

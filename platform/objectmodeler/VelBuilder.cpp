@@ -8,7 +8,9 @@
 #include <vector>
 
 #include "platform/base/VelCheck.h"
+#include "platform/base/VelExceptionText.h"
 #include "platform/objectmodeler/VelComponentAccess.h"
+#include "platform/objectmodeler/VelPin.h"
 #include "platform/objectmodeler/VelVar.h"
 
 namespace {
@@ -41,13 +43,14 @@ std::vector<Construction>& Constructions() {
 
 int depth = 0;
 
-void RunSecondPhase(const Attachment& iAttachment) {
-  if (iAttachment.component->State() == VelComponentState::Closed) return;
+void RunSecondPhase(VelComponent& ioComponent, VelImplementation& ioImplementation) {
+  if (ioComponent.State() == VelComponentState::Closed) return;
+  const VelPin pin(ioComponent);
   try {
-    iAttachment.implementation->OnAttached();
+    ioImplementation.OnAttached();
   } catch (...) {
     VelCheck::Failed(VEL_HERE(sourceText), "OnAttached()", "The construction of an implementation threw an exception",
-                     iAttachment.implementation->ClassName());
+                     VelExceptionText(ioImplementation.ClassName()));
   }
 }
 
@@ -55,17 +58,7 @@ void RunQueue() {
   while (!Queue().empty()) {
     const Attachment next = std::move(Queue().front());
     Queue().pop_front();
-    RunSecondPhase(next);
-  }
-}
-
-VelImplementation* Create(VelComponent& ioComponent, VelCreateImplementation iCreate, const VelClassRecord& iRecord) {
-  try {
-    return iCreate(ioComponent);
-  } catch (...) {
-    VelCheck::Failed(VEL_HERE(sourceText), "CreateExtension",
-                     "The construction of an implementation threw an exception", iRecord.name);
-    return nullptr;
+    RunSecondPhase(*next.component, *next.implementation);
   }
 }
 
@@ -75,54 +68,89 @@ bool IsUnderConstruction(const VelComponent& iComponent, const VelClassRecord* i
   });
 }
 
+/// Calls a creation function, unless it is running for the same component further up the stack already.
+/// @return what it made; null when it declined, threw, or would construct itself without end
+template <class Made>
+Made* Construct(VelComponent& ioComponent, const VelClassRecord* iRecord, Made* (*iCreate)(VelComponent&)) {
+  if (IsUnderConstruction(ioComponent, iRecord)) {
+    VelCheck::Failed(VEL_HERE(sourceText), "IsUnderConstruction",
+                     "A constructor asks for an interface that it is about to answer; OnAttached may", iRecord->name);
+    return nullptr;
+  }
+  Constructions().push_back({&ioComponent, iRecord});
+  Made* made = nullptr;
+  try {
+    made = iCreate(ioComponent);
+  } catch (...) {
+    VelCheck::Failed(VEL_HERE(sourceText), "Create", "The construction of an implementation threw an exception",
+                     VelExceptionText(iRecord->name));
+  }
+  Constructions().pop_back();
+  return made;
+}
+
+/// As Construct; what was made for a component that its own construction closed goes again.
+VelImplementation* ConstructImplementation(VelComponent& ioComponent, const VelBinding& iRow) {
+  VelImplementation* built = Construct(ioComponent, iRow.record, iRow.createImplementation);
+  if (built == nullptr || ioComponent.State() != VelComponentState::Closed) return built;
+  delete built;
+  return nullptr;
+}
+
 /// Constructs one implementation and queues its second phase.
 void BuildOne(VelComponent& ioComponent, const VelBinding& iRow) {
   const VelClassRecord* record = iRow.record;
-  if (IsUnderConstruction(ioComponent, record)) {
-    VelCheck::Failed(VEL_HERE(sourceText), "IsUnderConstruction",
-                     "A constructor asks for an interface that it is about to answer; OnAttached may", record->name);
-    return;
-  }
-  Constructions().push_back({&ioComponent, record});
-  VelImplementation* built = Create(ioComponent, iRow.createImplementation, *record);
-  Constructions().pop_back();
+  VelImplementation* built = ConstructImplementation(ioComponent, iRow);
   if (built == nullptr) return;
   VelComponentAccess::Attach(*built, record);
   Queue().push_back({VelBaseUnknown_var(static_cast<VelBaseUnknown*>(&ioComponent)), &ioComponent, built});
 }
 
+/// @return the main implementation's row of a component that is open and has none built yet, else null
+const VelBinding* FindMissingMain(VelComponent& ioComponent) {
+  if (ioComponent.State() == VelComponentState::Closed) return nullptr;
+  const VelBinding* main = ioComponent.LateType().MainImplementation();
+  return main != nullptr && VelComponentAccess::Find(ioComponent, main->record) == nullptr ? main : nullptr;
+}
+
 /// Builds the main implementations of the fathers that have none yet, outermost first. A father that has one was built
-/// after its own fathers, so the climb ends there.
+/// after its own fathers, so the climb ends there; one whose late type has none is passed over.
 void BuildFathers(VelComponent& iComponent) {
-  std::vector<VelComponent*> fathers;
+  std::vector<VelBaseUnknown_var> fathers;
   for (VelComponent* father = iComponent.GetFather(); father != nullptr; father = father->GetFather()) {
-    const VelBinding* main = father->LateType().MainImplementation();
-    if (main == nullptr) continue;
-    if (father->State() == VelComponentState::Closed || VelComponentAccess::Find(*father, main->record) != nullptr)
-      break;
-    fathers.push_back(father);
+    if (father->LateType().MainImplementation() == nullptr) continue;
+    if (FindMissingMain(*father) == nullptr) break;
+    fathers.emplace_back(static_cast<VelBaseUnknown*>(father));
   }
   for (auto father = fathers.rbegin(); father != fathers.rend(); ++father) {
-    const VelBinding* main = (*father)->LateType().MainImplementation();
-    if (main != nullptr && VelComponentAccess::Find(**father, main->record) == nullptr) BuildOne(**father, *main);
+    VelComponent& component = *(*father)->GetComponent();
+    if (const VelBinding* main = FindMissingMain(component)) BuildOne(component, *main);
   }
 }
 
 }  // namespace
 
 VelImplementation* VelBuilder::Build(VelComponent& ioComponent, const VelBinding& iRow) {
-  const VelClassRecord* record = iRow.record;
+  const VelBinding row = iRow;  // Building may unload the dictionary file that the row stands in.
   ++depth;
   BuildFathers(ioComponent);
-  if (VelComponentAccess::Find(ioComponent, record) == nullptr) BuildOne(ioComponent, iRow);
+  const bool isOpen = ioComponent.State() != VelComponentState::Closed;
+  if (isOpen && VelComponentAccess::Find(ioComponent, row.record) == nullptr) BuildOne(ioComponent, row);
   if (depth == 1) RunQueue();
   --depth;
   if (ioComponent.State() == VelComponentState::Closed) return nullptr;
-  return VelComponentAccess::Find(ioComponent, record);
+  return VelComponentAccess::Find(ioComponent, row.record);
 }
 
 VelImplementation* VelBuilder::BuildForOneForwarder(VelComponent& ioComponent, const VelBinding& iRow) {
-  VelImplementation* built = Create(ioComponent, iRow.createImplementation, *iRow.record);
-  if (built != nullptr) RunSecondPhase({nullptr, &ioComponent, built});
-  return built;
+  VelImplementation* built = ConstructImplementation(ioComponent, iRow);
+  if (built == nullptr) return nullptr;
+  RunSecondPhase(ioComponent, *built);
+  if (ioComponent.State() != VelComponentState::Closed) return built;
+  delete built;
+  return nullptr;
+}
+
+VelBaseUnknown* VelBuilder::BuildDelegatingExtension(VelComponent& ioComponent, const VelBinding& iRow) {
+  return Construct(ioComponent, iRow.record, iRow.createBoa);
 }

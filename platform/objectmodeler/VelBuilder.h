@@ -19,8 +19,12 @@ class VelBuilder {
   static VelImplementation* Build(VelComponent& ioComponent, const VelBinding& iRow);
 
   /// Builds an implementation that lives as long as one forwarder; both phases run at once.
-  /// @return null when it declines or throws; otherwise the caller owns it
+  /// @return as Build; the caller owns it
   static VelImplementation* BuildForOneForwarder(VelComponent& ioComponent, const VelBinding& iRow);
+
+  /// Makes an extension that is its own interface object.
+  /// @return null when it declines, throws, or is being made already further up the stack; else with one reference
+  static VelBaseUnknown* BuildDelegatingExtension(VelComponent& ioComponent, const VelBinding& iRow);
 };
 
 #endif  // PLATFORM_OBJECTMODELER_VELBUILDER_H

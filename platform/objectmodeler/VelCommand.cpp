@@ -8,6 +8,15 @@
 VelCommand::VelCommand(VelCommand* iParent, const char* iName, const VelMetaClass& iClass)
     : VelObject(iClass.Name(), iClass), parent_(iParent), name_(iName) {}
 
+VelCommand::VelCommand(const VelCommand& iOther)
+    : VelObject(iOther.ClassName(), iOther.GetMetaObject()), parent_(iOther.parent_), name_(iOther.name_) {}
+
+VelCommand& VelCommand::operator=(const VelCommand& iOther) {
+  parent_ = iOther.parent_;
+  name_ = iOther.name_;
+  return *this;
+}
+
 VelCommand::~VelCommand() { EndLife(); }
 
 const VelMetaClass& VelCommand::MetaObject() noexcept {

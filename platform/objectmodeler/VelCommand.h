@@ -9,7 +9,8 @@
 #include "platform/objectmodeler/VelObject.h"
 
 /// A command: an object with a name and perhaps a parent, whose late type is the name of its class. Extensions that
-/// other frameworks declare on that late type, or on "VelCommand", answer for it.
+/// other frameworks declare on that late type, or on "VelCommand", answer for it. Like every object it ends by
+/// EndLife() and goes with its last reference, so that whoever still holds one of its forwarders stays safe.
 class VEL_PLATFORM_API VelCommand : public VelObject {
  public:
   /// @return the command that this one belongs to, without a reference; null for none
@@ -25,6 +26,13 @@ class VEL_PLATFORM_API VelCommand : public VelObject {
   /// @param[in] iName null for none
   /// @param[in] iClass the meta-class of the derived class
   VelCommand(VelCommand* iParent, const char* iName, const VelMetaClass& iClass);
+
+  /// A command of the same class, parent and name, but a component of its own: nothing that was built is copied.
+  VelCommand(const VelCommand& iOther);
+
+  /// Takes over parent and name; both stay the components that they are.
+  VelCommand& operator=(const VelCommand& iOther);
+
   ~VelCommand() override;
 
  private:

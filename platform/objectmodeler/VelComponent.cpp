@@ -4,6 +4,7 @@
 #include "platform/objectmodeler/VelComponent.h"
 
 #include "platform/base/VelCheck.h"
+#include "platform/base/VelExceptionText.h"
 #include "platform/base/VelThreadBinding.h"
 #include "platform/objectmodeler/VelBuilder.h"
 #include "platform/objectmodeler/VelComponentAccess.h"
@@ -25,9 +26,9 @@ VelComponent::~VelComponent() {
 }
 
 HRESULT VelComponent::QueryInterface(const VelInterfaceId& iInterface, VelBaseUnknown** oInterface) noexcept {
-  VEL_ASSERT_BOUND_THREAD();
   if (oInterface == nullptr) return E_INVALIDARG;
   *oInterface = nullptr;
+  if (!VEL_IS_BOUND_THREAD()) return E_UNEXPECTED;
   const VelBinding* row = lateType_->Answer(iInterface.Index());
   if (row == nullptr) {
     if (!(iInterface == IID_VelBaseUnknown)) return E_NOINTERFACE;
@@ -46,37 +47,35 @@ HRESULT VelComponent::QueryInterface(const VelInterfaceId& iInterface, VelBaseUn
 /// built may release it.
 HRESULT VelComponent::BuildAndQuery(const VelBinding& iRow, VelBaseUnknown** oInterface) noexcept {
   if (state_ == VelComponentState::Closed) return E_NOINTERFACE;
-  const VelBinding row = iRow;  // Building may unload the dictionary file that the row stands in.
   const VelBaseUnknown_var keeper(static_cast<VelBaseUnknown*>(this));
-  if (row.mechanism == VelMechanism::BOA) {
-    try {
-      *oInterface = row.createBoa(*this);
-    } catch (...) {
-      VelCheck::Failed(VEL_HERE("platform/objectmodeler/VelComponent"), "CreateBOA",
-                       "The construction of an extension threw an exception", row.record->name);
-    }
+  if (iRow.mechanism == VelMechanism::BOA) {
+    *oInterface = VelBuilder::BuildDelegatingExtension(*this, iRow);
     return *oInterface != nullptr ? S_OK : E_NOINTERFACE;
   }
-  const bool ownedByForwarder = row.lifetime == VelLifetime::Reference;
+  // Building may unload the dictionary file that the row stands in.
+  const VelCreateTie createTie = iRow.createTie;
+  const bool ownedByForwarder = iRow.lifetime == VelLifetime::Reference;
   VelImplementation* built =
-      ownedByForwarder ? VelBuilder::BuildForOneForwarder(*this, row) : VelBuilder::Build(*this, row);
+      ownedByForwarder ? VelBuilder::BuildForOneForwarder(*this, iRow) : VelBuilder::Build(*this, iRow);
   if (built == nullptr) return E_NOINTERFACE;
   ++count_;
-  *oInterface = row.createTie(VelTiePool::Take(), *built, *this, ownedByForwarder);
+  *oInterface = createTie(VelTiePool::Take(), *built, *this, ownedByForwarder);
   return S_OK;
 }
 
 std::uint32_t VelComponent::AddRef() noexcept {
-  VEL_ASSERT_BOUND_THREAD();
+  if (!VEL_IS_BOUND_THREAD()) return count_;
   return ++count_;
 }
 
 std::uint32_t VelComponent::Release() noexcept {
-  VEL_ASSERT_BOUND_THREAD();
+  if (!VEL_IS_BOUND_THREAD()) return count_;
   const std::uint32_t left = --count_;
   if (left == 0) OnUnreferenced();
   return left;
 }
+
+const std::string& VelComponent::LateTypeName() const noexcept { return lateType_->Name(); }
 
 bool VelComponent::OffersInterface(const VelInterfaceId& iInterface) const noexcept {
   return iInterface == IID_VelBaseUnknown || lateType_->Declared(iInterface.Index()) != nullptr;
@@ -88,7 +87,7 @@ void VelComponent::Open() noexcept {
 
 void VelComponent::Close() noexcept {
   if (state_ == VelComponentState::Closed) return;
-  ++count_;  // What is destroyed here may take and drop references on its component.
+  ++count_;  // What is told and destroyed here may take and drop references on its component.
   Announce(VelComponentState::Closed);
   if (live_ != nullptr && live_->pins == 0) VelComponentAccess::DestroyImplementations(*live_);
   --count_;
@@ -97,7 +96,10 @@ void VelComponent::Close() noexcept {
 bool VelComponent::CloseUnreferenced() noexcept {
   ++count_;
   Close();
-  return --count_ == 0;
+  // The last reference stays counted when the block goes, so that a destructor may take and drop further ones.
+  if (count_ == 1) return true;
+  --count_;
+  return false;
 }
 
 void VelComponent::Announce(VelComponentState iState) noexcept {
@@ -105,12 +107,15 @@ void VelComponent::Announce(VelComponentState iState) noexcept {
   state_ = iState;
   if (live_ == nullptr) return;
   if (iState == VelComponentState::Closed) live_->component = nullptr;
+  ++live_->pins;  // Whatever is done on hearing of it, nothing is destroyed while the list is walked.
   for (VelImplementation* built = live_->first; built != nullptr; built = VelComponentAccess::Older(*built)) {
     try {
       built->OnComponentStateChange(before, iState);
     } catch (...) {
       VelCheck::Failed(VEL_HERE("platform/objectmodeler/VelComponent"), "OnComponentStateChange()",
-                       "An implementation threw an exception when its component's state changed", built->ClassName());
+                       "An implementation threw an exception when its component's state changed",
+                       VelExceptionText(built->ClassName()));
     }
   }
+  --live_->pins;
 }

@@ -5,6 +5,7 @@
 #define PLATFORM_OBJECTMODELER_VELCOMPONENT_H
 
 #include <cstdint>
+#include <string>
 
 #include "platform/base/VelPlatformApi.h"
 #include "platform/objectmodeler/VelBaseUnknown.h"
@@ -29,6 +30,10 @@ class VEL_PLATFORM_API VelComponent : public VelBaseUnknown {
   VelComponent* GetComponent() noexcept final { return this; }
   VelBaseUnknown* GetImpl() noexcept override { return this; }
 
+  /// @return the name of the late type, by which the dictionary looks answers up
+  const std::string& LateTypeName() const noexcept;
+
+  /// For the platform's own files; the class is not exported.
   VelLateType& LateType() const noexcept { return *lateType_; }
 
   VelComponentState State() const noexcept { return state_; }

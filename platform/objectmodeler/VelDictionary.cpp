@@ -14,6 +14,7 @@
 #include "platform/objectmodeler/VelDictionaryReport.h"
 #include "platform/objectmodeler/VelDictionarySource.h"
 #include "platform/objectmodeler/VelModuleOpener.h"
+#include "platform/trace/VelTraceHandle.h"
 
 namespace {
 
@@ -32,8 +33,6 @@ const VelClassRecord& RecordOf(const std::string& iClass) {
   return records.try_emplace(iClass, VelClassRecord{iClass}).first->second;
 }
 
-std::string FolderOf(const std::string& iFile) { return iFile.substr(0, iFile.rfind('/')); }
-
 std::string PlaceOf(const VelDictionarySource& iSource) {
   return iSource.file.empty() ? "the linked module '" + iSource.module + "'" : "'" + iSource.file + "'";
 }
@@ -43,6 +42,12 @@ VelDictionaryFault FindContradiction(const VelDictionaryModule& iModule) {
   for (const auto& source : AllSources()) {
     if (source->module != iModule.name) continue;
     return {iModule.line, "the module '" + iModule.name + "' is declared already by " + PlaceOf(*source)};
+  }
+  for (const VelDictionaryClass& declared : iModule.classes) {
+    for (const auto& source : AllSources()) {
+      if (!source->classes.contains(declared.name)) continue;
+      return {declared.line, "the class '" + declared.name + "' is declared already by " + PlaceOf(*source)};
+    }
   }
   for (const VelDictionaryRow& row : iModule.rows) {
     const VelLateType* type = VelLateType::Find(row.lateType);
@@ -79,6 +84,7 @@ void Remove(const VelDictionarySource& iSource) {
   for (VelLateType* type : iSource.types) type->RemoveRowsOf(iSource);
   for (const VelDictionaryBase& known : iSource.bases) TakeBaseBack(*known.lateType, iSource);
   std::erase_if(AllSources(), [&](const auto& iKnown) { return iKnown.get() == &iSource; });
+  VelLateType::ForgetAnswers();
 }
 
 /// @return why a late type cannot have a base, empty when it can
@@ -137,11 +143,13 @@ VelDictionarySource* Enter(const VelDictionaryModule& iModule, const std::string
   source.module = iModule.name;
   source.framework = iModule.framework;
   source.library = iModule.library;
+  for (const VelDictionaryClass& declared : iModule.classes) source.classes.insert(declared.name);
   if (!EnterBases(iModule, source)) {
     Remove(source);
     return nullptr;
   }
   EnterRows(iModule, source);
+  VelLateType::ForgetAnswers();
   return &source;
 }
 
@@ -150,7 +158,7 @@ bool RemoveAllOf(const std::string& iPath) {
   bool removed = false;
   for (std::size_t i = AllSources().size(); i-- > 0;) {
     const VelDictionarySource& source = *AllSources()[i];
-    if (source.file.empty() || (source.file != iPath && FolderOf(source.file) != iPath)) continue;
+    if (source.file.empty() || (source.file != iPath && VelSystemFile::FolderOf(source.file) != iPath)) continue;
     Remove(source);
     removed = true;
   }
@@ -181,7 +189,7 @@ std::vector<VelModuleRow> RowsOf(const VelModuleTable& iTable) {
 VelDictionaryModule ToModule(const VelModuleTable& iTable, const std::vector<VelModuleRow>& iRows) {
   VelDictionaryModule module{iTable.name, iTable.framework, {}, 0, {}, {}, {}};
   for (const VelModuleType& type : iTable.types) module.types.push_back({type.lateType, type.base, 0});
-  for (const VelModuleClass& known : iTable.classes) module.classes.push_back({known.name, known.kind});
+  for (const VelModuleClass& known : iTable.classes) module.classes.push_back({known.name, known.kind, 0});
   for (const VelModuleRow& row : iRows) {
     module.rows.push_back({row.lateType, row.interfaceName, row.mechanism, row.lifetime, row.className, 0});
   }
@@ -192,6 +200,7 @@ VelDictionaryModule ToModule(const VelModuleTable& iTable, const std::vector<Vel
 /// @return the fault, empty when there is none
 std::string FindGridFault(const VelDictionaryModule& iModule) {
   std::set<std::pair<std::string_view, std::string_view>> bound;
+  std::map<std::string_view, VelLifetime> lifetimes;
   for (const VelDictionaryRow& row : iModule.rows) {
     const auto owner = std::find_if(iModule.classes.begin(), iModule.classes.end(),
                                     [&](const VelDictionaryClass& iClass) { return iClass.name == row.className; });
@@ -201,6 +210,9 @@ std::string FindGridFault(const VelDictionaryModule& iModule) {
     }
     if (row.mechanism == VelMechanism::BOA && row.lifetime == VelLifetime::Component) {
       return "a BOA row lives by Reference, found Component for '" + row.className + "'";
+    }
+    if (lifetimes.emplace(row.className, row.lifetime).first->second != row.lifetime) {
+      return "the class '" + row.className + "' has rows of both lifetimes";
     }
     if (bound.emplace(row.lateType, row.interfaceName).second) continue;
     return "'" + row.interfaceName + "' is bound to '" + row.lateType + "' twice";
@@ -245,19 +257,26 @@ HRESULT VelDictionary::LoadFile(const std::string& iPath) {
     RemoveAllOf(path);
     return E_FAIL;
   }
+  VelTraceHandle("VelDictionary").Info("Dictionary loaded { file = %s, modules = %d }", path, modules.size());
   return S_OK;
 }
 
-HRESULT VelDictionary::LoadFolder(const std::string& iPath) {
+HRESULT VelDictionary::LoadFolder(const std::string& iPath, std::vector<std::string>* oFiles) {
   std::vector<std::string> names;
   std::string cause;
   if (FAILED(VelSystemFile::ListFolder(iPath, fileNameEnd, names, cause))) {
     VelReportDictionaryError({}, 0, "the dictionary folder '" + iPath + "' cannot be read: " + cause);
     return E_FAIL;
   }
+  if (names.empty()) {
+    VelTraceHandle("VelDictionary")
+        .Warning("The folder '%s' holds no file whose name ends in '%s'", iPath, fileNameEnd);
+  }
   HRESULT result = S_OK;
   for (const std::string& name : names) {
-    if (FAILED(LoadFile(iPath + '/' + name))) result = E_FAIL;
+    const HRESULT loaded = LoadFile(iPath + '/' + name);
+    if (FAILED(loaded)) result = E_FAIL;
+    if (loaded == S_OK && oFiles != nullptr) oFiles->push_back(iPath + '/' + name);
   }
   return result;
 }

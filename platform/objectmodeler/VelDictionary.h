@@ -27,8 +27,10 @@ class VEL_PLATFORM_API VelDictionary {
   static HRESULT LoadFile(const std::string& iPath);
 
   /// Loads every file of a folder whose name ends in ".dictionary", in the order of their names.
+  /// A folder without any is a warning.
+  /// @param[out] oFiles the paths of the files that this call loaded are appended; null where nobody wants to know
   /// @return S_OK; E_FAIL when the folder cannot be read or a file of it fails; the other files are loaded all the same
-  static HRESULT LoadFolder(const std::string& iPath);
+  static HRESULT LoadFolder(const std::string& iPath, std::vector<std::string>* oFiles = nullptr);
 
   /// Takes the rows of a file out again, or those of every file of a folder. Libraries stay open and what is built
   /// stays.

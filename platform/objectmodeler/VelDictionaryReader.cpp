@@ -16,6 +16,7 @@ using Words = std::vector<std::string_view>;
 constexpr std::string_view header = "velrsh-dictionary";
 constexpr std::string_view version = "1";
 constexpr std::size_t rowLimit = 16384;
+constexpr std::size_t statementLimit = 32768;
 
 /// Splits a line at blanks, up to a word that begins with '#'.
 Words Split(std::string_view iLine) {
@@ -54,7 +55,8 @@ class Reading {
 
   std::optional<std::string> Finish() const {
     if (!headerSeen_) return "the file is empty, expected the line 'velrsh-dictionary 1'";
-    return modules_.empty() ? std::nullopt : FindIncomplete(modules_.back());
+    if (modules_.empty()) return "the file declares no module, expected a 'module' line";
+    return FindIncomplete(modules_.back());
   }
 
  private:
@@ -65,6 +67,12 @@ class Reading {
     std::optional<std::string> (Reading::*take)(const Words&);
   };
   static const std::array<Keyword, 7> keywords;
+
+  /// What later lines have to agree with.
+  struct ClassFacts {
+    VelTypeOfClass kind;
+    std::optional<VelLifetime> lifetime;  ///< That of its rows, which all have the same.
+  };
 
   std::optional<std::string> TakeHeader(const Words& iWords) {
     if (iWords.size() != 2 || iWords[0] != header)
@@ -85,6 +93,9 @@ class Reading {
       if (!IsName(iWords[i])) return "'" + std::string(iWords[i]) + "' is no name, expected letters, digits and '_'";
     }
     if (modules_.empty() && iKeyword.word != "module") return "expected a 'module' line before this one";
+    if (++statementCount_ > statementLimit) {
+      return "a dictionary holds at most " + std::to_string(statementLimit) + " statements";
+    }
     return (this->*iKeyword.take)(iWords);
   }
 
@@ -104,6 +115,7 @@ class Reading {
       }
     }
     modules_.push_back({std::string(iWords[1]), {}, {}, line_, {}, {}, {}});
+    classes_.clear();
     return std::nullopt;
   }
 
@@ -128,14 +140,15 @@ class Reading {
     if (FindClass(iWords[1]) != nullptr) return "the class '" + std::string(iWords[1]) + "' stands twice";
     for (const auto& [word, kind] : kinds) {
       if (word != iWords[2]) continue;
-      Module().classes.push_back({std::string(iWords[1]), kind});
+      Module().classes.push_back({std::string(iWords[1]), kind, line_});
+      classes_.emplace(iWords[1], ClassFacts{kind, std::nullopt});
       return std::nullopt;
     }
     return "unknown kind '" + std::string(iWords[2]) + "', expected Implementation, Extension or DelegatingExtension";
   }
 
   std::optional<std::string> TakeBind(const Words& iWords) {
-    const VelDictionaryClass* owner = FindClass(iWords[5]);
+    ClassFacts* owner = FindClass(iWords[5]);
     if (owner == nullptr) return "the class '" + std::string(iWords[5]) + "' has no 'class' line before this one";
     const bool isTie = iWords[3] == "TIE";
     if (!isTie && iWords[3] != "BOA") return "unknown mechanism '" + std::string(iWords[3]) + "', expected TIE or BOA";
@@ -147,8 +160,13 @@ class Reading {
       return "a DelegatingExtension answers by BOA and every other class by TIE";
     }
     if (!isTie && livesAlong) return "a BOA row lives by Reference, found Component";
+    const VelLifetime lifetime = livesAlong ? VelLifetime::Component : VelLifetime::Reference;
+    if (owner->lifetime.value_or(lifetime) != lifetime) {
+      return "the class '" + std::string(iWords[5]) + "' has the other lifetime in a row before this one";
+    }
+    owner->lifetime = lifetime;
     return AddRow({std::string(iWords[1]), std::string(iWords[2]), isTie ? VelMechanism::TIE : VelMechanism::BOA,
-                   livesAlong ? VelLifetime::Component : VelLifetime::Reference, owner->name, line_});
+                   lifetime, std::string(iWords[5]), line_});
   }
 
   std::optional<std::string> TakeExtend(const Words& iWords) {
@@ -179,16 +197,16 @@ class Reading {
 
   VelDictionaryModule& Module() { return modules_.back(); }
 
-  const VelDictionaryClass* FindClass(std::string_view iName) const {
-    for (const VelDictionaryClass& known : modules_.back().classes) {
-      if (known.name == iName) return &known;
-    }
-    return nullptr;
+  ClassFacts* FindClass(std::string_view iName) {
+    const auto known = classes_.find(std::string(iName));
+    return known != classes_.end() ? &known->second : nullptr;
   }
 
   std::vector<VelDictionaryModule>& modules_;
-  std::unordered_map<std::string, unsigned> boundAt_;  ///< The line of each late type and interface.
+  std::unordered_map<std::string, ClassFacts> classes_;  ///< Those of the module that is being read.
+  std::unordered_map<std::string, unsigned> boundAt_;    ///< The line of each late type and interface.
   unsigned line_ = 0;
+  std::size_t statementCount_ = 0;
   bool headerSeen_ = false;
 };
 

@@ -19,6 +19,7 @@ struct VelDictionaryType {
 struct VelDictionaryClass {
   std::string name;
   VelTypeOfClass kind;
+  unsigned line;
 };
 struct VelDictionaryRow {
   std::string lateType;

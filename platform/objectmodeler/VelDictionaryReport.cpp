@@ -3,16 +3,11 @@
 /// @file VelDictionaryReport.cpp Sends the dictionary's errors to its trace channel.
 #include "platform/objectmodeler/VelDictionaryReport.h"
 
-#include "platform/trace/QrnSysTrace.h"
+#include "platform/trace/VelTraceHandle.h"
 
 void VelReportDictionaryError(std::string_view iFile, unsigned iLine, std::string_view iText) noexcept {
-  QrnSysTrace* trace = QrnSysTraceCreate("VelDictionary");
-  if (trace == nullptr) return;
+  const VelTraceHandle trace("VelDictionary");
   const VelSourcePosition position = VEL_HERE("platform/objectmodeler/VelDictionary");
-  if (iFile.empty()) {
-    trace->Error(position, "%s", iText);
-  } else {
-    trace->Error(position, "%s:%u: %s", iFile, iLine, iText);
-  }
-  QrnSysTraceDestroy(trace);
+  if (iFile.empty()) return trace.Error(position, "%s", iText);
+  trace.Error(position, "%s:%u: %s", iFile, iLine, iText);
 }

@@ -4,7 +4,9 @@
 #ifndef PLATFORM_OBJECTMODELER_VELDICTIONARYSOURCE_H
 #define PLATFORM_OBJECTMODELER_VELDICTIONARYSOURCE_H
 
+#include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -28,6 +30,7 @@ struct VelDictionarySource {
   std::vector<std::unique_ptr<VelBinding>> rows;  ///< The rows, in the order of declaration.
   std::vector<VelLateType*> types;                ///< The late types that the rows stand on, each once.
   std::vector<VelDictionaryBase> bases;           ///< The bases that this module declares.
+  std::set<std::string, std::less<>> classes;     ///< The classes that it declares, which are its own.
 };
 
 #endif  // PLATFORM_OBJECTMODELER_VELDICTIONARYSOURCE_H

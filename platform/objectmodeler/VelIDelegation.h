@@ -16,16 +16,16 @@ VEL_PLATFORM_API extern const VelInterfaceId IID_VelIDelegation;
 /// Thread: the application thread. Re-entrancy: none.
 class VEL_PLATFORM_API VelIDelegation : public VelBaseUnknown {
  public:
-  static const VelInterfaceId& InterfaceId() noexcept { return IID_VelIDelegation; }
+  VEL_INTERFACE(VelIDelegation);
 
   /// Sets the delegate, which is referenced until it is replaced or the component is closed.
   /// @param[in] iDelegate null for none
   /// @return S_OK; S_FALSE when it is the delegate already; E_FAIL when the component is closed
   virtual HRESULT SetDelegate(VelBaseUnknown* iDelegate) = 0;
 
-  /// @param[out] oDelegate the delegate with one reference for the caller, null on failure
-  /// @return S_OK; E_INVALIDARG when oDelegate is null; E_FAIL when there is none or the component is closed (then
-  ///         oDelegate is untouched)
+  /// @param[out] oDelegate the delegate with one reference for the caller, null when there is none, untouched when the
+  ///             component is closed
+  /// @return S_OK; E_INVALIDARG when oDelegate is null; E_FAIL when there is no delegate or the component is closed
   virtual HRESULT GetDelegate(VelBaseUnknown** oDelegate) = 0;
 
  protected:

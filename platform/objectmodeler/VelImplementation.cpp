@@ -52,9 +52,11 @@ void VelComponentAccess::Attach(VelImplementation& ioImplementation, const VelCl
 }
 
 void VelComponentAccess::DestroyImplementations(VelLivePart& ioLive) noexcept {
+  ++ioLive.pins;  // A destructor that pins its component does not start another round of destruction.
   while (ioLive.first != nullptr) {
     VelImplementation* const youngest = ioLive.first;
     ioLive.first = youngest->next_;
     delete youngest;
   }
+  --ioLive.pins;
 }

@@ -5,9 +5,8 @@
 #define PLATFORM_OBJECTMODELER_VELIMPLEMENTATION_H
 
 #include "platform/base/VelPlatformApi.h"
-#include "platform/objectmodeler/VelBaseUnknown.h"
+#include "platform/objectmodeler/VelComponent.h"
 
-class VelComponent;
 struct VelClassRecord;
 
 /// An object that does the work behind a component's interfaces. It has no reference count: it lives in its component
@@ -34,7 +33,8 @@ class VEL_PLATFORM_API VelImplementation : public VelBaseUnknown {
   /// built without recursion.
   virtual void OnAttached() {}
 
-  /// Called once per change of the component's state, before anything is destroyed.
+  /// Called once per change of the component's state, the youngest implementation first, before anything is destroyed.
+  /// Implementations that live by reference do not hear it.
   virtual void OnComponentStateChange(VelComponentState iFrom, VelComponentState iTo);
 
  private:

@@ -24,10 +24,11 @@ Names& AllNames() {
 
 }  // namespace
 
-VelInterfaceId::VelInterfaceId(const char* iName) : name_(iName), base_(nullptr), index_(IndexOf(iName)) {}
+VelInterfaceId::VelInterfaceId(const char* iName)
+    : name_(iName != nullptr ? iName : ""), base_(nullptr), index_(IndexOf(name_)) {}
 
 VelInterfaceId::VelInterfaceId(const char* iName, const VelInterfaceId& iBase)
-    : name_(iName), base_(&iBase), index_(IndexOf(iName)) {}
+    : name_(iName != nullptr ? iName : ""), base_(&iBase), index_(IndexOf(name_)) {}
 
 std::uint32_t VelInterfaceId::IndexOf(std::string_view iName) {
   Names& all = AllNames();

@@ -18,7 +18,7 @@ class VelMetaClass;
 class VEL_PLATFORM_API VelInterfaceId {
  public:
   /// Defines the identifier of the root of all interfaces.
-  /// @param[in] iName the interface's name; not copied, must live as long as the process
+  /// @param[in] iName the interface's name; not copied, must live as long as the process; null counts as empty
   explicit VelInterfaceId(const char* iName);
 
   /// Defines the identifier of an interface that derives from another one.

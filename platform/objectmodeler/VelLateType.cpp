@@ -6,9 +6,12 @@
 #include <map>
 #include <memory>
 
+#include "platform/objectmodeler/VelBaseUnknown.h"
 #include "platform/objectmodeler/VelModuleOpener.h"
+#include "platform/trace/VelTraceHandle.h"
 
 VelBinding VelLateType::unanswered{};
+std::uint64_t VelLateType::forgettings = 0;
 
 namespace {
 
@@ -67,17 +70,12 @@ bool VelLateType::LeadsBackToThis(const VelLateType& iBase) const noexcept {
 void VelLateType::DeclareBase(VelLateType* iBase, const VelDictionarySource* iSource) noexcept {
   base_ = iBase;
   baseSource_ = iSource;
-  ForgetAnswers();
 }
 
-void VelLateType::Add(VelBinding& ioRow) {
-  rows_.push_back(&ioRow);
-  ForgetAnswers();
-}
+void VelLateType::Add(VelBinding& ioRow) { rows_.push_back(&ioRow); }
 
 void VelLateType::RemoveRowsOf(const VelDictionarySource& iSource) noexcept {
   std::erase_if(rows_, [&](const VelBinding* iRow) { return iRow->source == &iSource; });
-  ForgetAnswers();
 }
 
 VelBinding* VelLateType::Declared(std::uint32_t iInterfaceIndex) const noexcept {
@@ -99,10 +97,13 @@ VelBinding* VelLateType::MainImplementation() {
 }
 
 VelBinding* VelLateType::FindAnswer(std::uint32_t iInterfaceIndex) {
-  VelBinding* row = Declared(iInterfaceIndex);
-  if (row != nullptr && !VelModuleOpener::EnsureOpen(*row)) row = nullptr;
-  // Opening a library can add rows and meta-classes, which makes every answer forgotten, so there is room made only
-  // now.
+  VelBinding* row = nullptr;
+  // Opening a library can add rows and meta-classes. Then the row that was found may no longer be the first to answer.
+  for (std::uint64_t before = ~forgettings; before != forgettings;) {
+    before = forgettings;
+    row = Declared(iInterfaceIndex);
+    if (row != nullptr && !VelModuleOpener::EnsureOpen(*row)) row = nullptr;
+  }
   if (iInterfaceIndex >= answerCount_) {
     answerStorage_.resize(answerCount_);
     answerStorage_.resize(iInterfaceIndex + 1, &unanswered);
@@ -110,9 +111,18 @@ VelBinding* VelLateType::FindAnswer(std::uint32_t iInterfaceIndex) {
     answerCount_ = answerStorage_.size();
   }
   answers_[iInterfaceIndex] = row;
+  if (row == nullptr) TraceAbsence(iInterfaceIndex);
   return row;
 }
 
+void VelLateType::TraceAbsence(std::uint32_t iInterfaceIndex) const {
+  const VelTraceHandle trace("VelDictionary");
+  if (iInterfaceIndex == IID_VelBaseUnknown.Index() || !trace.IsOn(VelTraceKind::Information)) return;
+  trace.Info("Nothing answers { late type = %s, interface = %s, rows of the late type = %d }", name_,
+             VelInterfaceId::NameOf(iInterfaceIndex), rows_.size());
+}
+
 void VelLateType::ForgetAnswers() noexcept {
+  ++forgettings;
   for (const auto& [name, type] : AllTypes()) type->answerCount_ = 0;
 }

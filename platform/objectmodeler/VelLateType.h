@@ -55,7 +55,7 @@ class VelLateType {
   /// @return the late type of the nearest base class of the meta-class of a name, the root when there is none
   static VelLateType& BaseByClass(std::string_view iName) noexcept;
 
-  /// Makes every late type forget its answers; called whenever rows or bases change.
+  /// Makes every late type forget its answers; called once after rows, bases or meta-classes have changed.
   static void ForgetAnswers() noexcept;
 
   const std::string& Name() const noexcept { return name_; }
@@ -105,7 +105,10 @@ class VelLateType {
 
   VelBinding* FindAnswer(std::uint32_t iInterfaceIndex);
 
+  void TraceAbsence(std::uint32_t iInterfaceIndex) const;
+
   static VelBinding unanswered;
+  static std::uint64_t forgettings;  ///< How often everything was forgotten.
 
   VelBinding** answers_ = nullptr;  ///< By interface number; points into answerStorage_.
   std::size_t answerCount_ = 0;     ///< 0 while everything is forgotten.

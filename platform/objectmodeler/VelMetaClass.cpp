@@ -73,6 +73,9 @@ const VelMetaClass* VelMetaClass::Find(std::string_view iName) noexcept {
 
 const VelMetaClass& fct_RetrieveMetaObject(const char* iName, const VelMetaClass* iBase, VelTypeOfClass iTypeOfClass,
                                            const char* iIdentifierName, const char* iFramework) {
+  if (iName == nullptr) iName = "";
+  if (iIdentifierName == nullptr) iIdentifierName = "VelNull";
+  if (iFramework == nullptr) iFramework = "";
   const VelMetaClass* known = VelMetaClass::Find(iName);
   if (known == nullptr) return VelMetaClassRegistry::Make(iName, iBase, iTypeOfClass, iIdentifierName, iFramework);
   const bool same = known->Base() == iBase && known->TypeOfClass() == iTypeOfClass &&

@@ -62,7 +62,7 @@ class VEL_PLATFORM_API VelMetaClass {
 
 /// Gives the meta-object of a class, which the first call for a name makes. A later call that differs in base, kind or
 /// framework is reported as a check and gets the first one.
-/// @param[in] iName the class; copied
+/// @param[in] iName the class; copied; null counts as empty, as for the other texts
 /// @param[in] iBase the meta-class of the base class, null for a root
 /// @param[in] iIdentifierName the interface identifier that goes with the class, "VelNull" for none; copied
 /// @param[in] iFramework the framework that declares it; copied

@@ -16,10 +16,14 @@ std::vector<const VelModuleDescription*>& Modules() {
 }  // namespace
 
 VelModuleRegistration::VelModuleRegistration(const VelModuleDescription& iDescription) noexcept {
-  if (Find(iDescription.name) == nullptr) Modules().push_back(&iDescription);
+  // A module of another ABI is refused anyway; it must not stand in the way of a right one of the same name.
+  if (iDescription.platformAbi == velPlatformAbi && Find(iDescription.name) == nullptr) {
+    Modules().push_back(&iDescription);
+  }
 }
 
 const VelModuleDescription* VelModuleRegistration::Find(const char* iName) noexcept {
+  if (iName == nullptr) return nullptr;
   for (const VelModuleDescription* module : Modules()) {
     if (std::string_view(module->name) == iName) return module;
   }

@@ -95,7 +95,9 @@ class VEL_PLATFORM_API VelModuleRegistration {
  public:
   explicit VelModuleRegistration(const VelModuleDescription& iDescription) noexcept;
 
-  /// @return the description that counts for a module name, null when no module of that name is loaded
+  /// @param[in] iName null for none
+  /// @return the description that counts for a module name, null when no module of that name and of this platform's
+  ///         ABI is loaded
   static const VelModuleDescription* Find(const char* iName) noexcept;
 };
 

@@ -11,7 +11,7 @@
 #include "platform/objectmodeler/VelDictionaryReport.h"
 #include "platform/objectmodeler/VelDictionarySource.h"
 #include "platform/objectmodeler/VelLateType.h"
-#include "platform/trace/QrnSysTrace.h"
+#include "platform/trace/VelTraceHandle.h"
 
 namespace {
 
@@ -20,15 +20,11 @@ std::vector<std::string>& LibraryFolders() {
   return folders;
 }
 
-std::string FolderOf(const std::string& iFile) {
-  const auto slash = iFile.rfind('/');
-  return slash == std::string::npos ? std::string(".") : iFile.substr(0, slash);
-}
-
-bool Exists(const std::string& iPath) {
-  std::string path;
+/// @return the path without detours, or as it is where nothing is there
+std::string Straighten(const std::string& iPath) {
+  std::string path = iPath;
   std::string cause;
-  return SUCCEEDED(VelSystemFile::CanonicalPath(iPath, path, cause));
+  return SUCCEEDED(VelSystemFile::CanonicalPath(iPath, path, cause)) ? path : iPath;
 }
 
 /// Where a library may be: as it is when it has an absolute path; beside the dictionary file when it has a folder; else
@@ -36,10 +32,13 @@ bool Exists(const std::string& iPath) {
 std::string LocateLibrary(const VelDictionarySource& iSource) {
   const std::string& library = iSource.library;
   if (library.front() == '/') return library;
-  const std::string besideFile = FolderOf(iSource.file) + '/' + library;
-  if (library.find('/') != std::string::npos || Exists(besideFile)) return besideFile;
+  const std::string besideFile = VelSystemFile::FolderOf(iSource.file) + '/' + library;
+  if (library.find('/') != std::string::npos || VelSystemFile::Exists(besideFile)) {
+    return Straighten(besideFile);
+  }
   for (const std::string& folder : LibraryFolders()) {
-    if (const std::string candidate = folder + '/' + library; Exists(candidate)) return candidate;
+    if (const std::string candidate = folder + '/' + library; VelSystemFile::Exists(candidate))
+      return Straighten(candidate);
   }
   return library;
 }
@@ -70,13 +69,6 @@ std::string FindFault(const VelDictionarySource& iSource, const std::string& iPa
   return {};
 }
 
-void TraceOpening(const VelDictionarySource& iSource, const std::string& iPath) {
-  QrnSysTrace* trace = QrnSysTraceCreate("VelDictionary");
-  if (trace == nullptr) return;
-  trace->Info("Library opened { module = %s, library = %s }", iSource.module, iPath);
-  QrnSysTraceDestroy(trace);
-}
-
 /// Opens the library of a module once; a refusal is remembered with its cause.
 bool EnsureLibrary(VelDictionarySource& ioSource) {
   if (ioSource.openLibrary != nullptr) return true;
@@ -88,7 +80,9 @@ bool EnsureLibrary(VelDictionarySource& ioSource) {
       library != nullptr ? FindFault(ioSource, path, library) : "the library '" + path + "' cannot be opened: " + cause;
   if (!ioSource.refusal.empty()) return false;
   ioSource.openLibrary = library;
-  TraceOpening(ioSource, path);
+  VelTraceHandle("VelDictionary")
+      .Info("Library opened { module = %s, library = %s }", ioSource.module,
+            VelSystemLibrary::PathOf(VelModuleRegistration::Find(ioSource.module.c_str())));
   return true;
 }
 

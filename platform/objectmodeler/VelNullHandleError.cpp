@@ -4,8 +4,14 @@
 /// process.
 #include "platform/objectmodeler/VelNullHandleError.h"
 
+#include <cstdio>
+
+VelNullHandleError::VelNullHandleError(const char* iInterface) noexcept : interface_(iInterface) {
+  static_cast<void>(std::snprintf(text_.data(), text_.size(), "An empty handle of %s was used", iInterface));
+}
+
 VelNullHandleError::~VelNullHandleError() = default;
 
-const char* VelNullHandleError::what() const noexcept { return "An empty interface handle was used"; }
+const char* VelNullHandleError::what() const noexcept { return text_.data(); }
 
 void VelNullHandleError::Throw(const char* iInterface) { throw VelNullHandleError(iInterface); }

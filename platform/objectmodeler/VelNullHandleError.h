@@ -4,6 +4,7 @@
 #ifndef PLATFORM_OBJECTMODELER_VELNULLHANDLEERROR_H
 #define PLATFORM_OBJECTMODELER_VELNULLHANDLEERROR_H
 
+#include <array>
 #include <exception>
 
 #include "platform/base/VelPlatformApi.h"
@@ -13,9 +14,10 @@
 class VEL_PLATFORM_API VelNullHandleError : public std::exception {
  public:
   /// @param[in] iInterface the name of the handle's interface; must live as long as the process
-  explicit VelNullHandleError(const char* iInterface) noexcept : interface_(iInterface) {}
+  explicit VelNullHandleError(const char* iInterface) noexcept;
   ~VelNullHandleError() override;
 
+  /// @return what was used, by its interface
   const char* what() const noexcept override;
 
   /// @return the name of the interface of the empty handle
@@ -26,6 +28,7 @@ class VEL_PLATFORM_API VelNullHandleError : public std::exception {
 
  private:
   const char* interface_;
+  std::array<char, 160> text_;  ///< A longer name is cut.
 };
 
 #endif  // PLATFORM_OBJECTMODELER_VELNULLHANDLEERROR_H

@@ -7,8 +7,17 @@
 #include "platform/objectmodeler/VelMetaClass.h"
 
 VelBaseUnknown_var VelObject::Create(std::string_view iLateType, const char* iClassName) {
-  const VelMetaClass& metaClass = fct_RetrieveMetaObject(iClassName, &MetaObject(), VelTypeOfClass::Implementation);
+  if (iClassName == nullptr) return VelBaseUnknown_var::Adopt(new VelObject(iLateType, MetaObject()));
+  const VelMetaClass* known = VelMetaClass::Find(iClassName);
+  const VelMetaClass& metaClass =
+      known != nullptr ? *known : fct_RetrieveMetaObject(iClassName, &MetaObject(), VelTypeOfClass::Implementation);
   return VelBaseUnknown_var::Adopt(new VelObject(iLateType, metaClass));
+}
+
+VelObject* VelObject::From(VelBaseUnknown* iObject) noexcept {
+  VelComponent* component = iObject != nullptr ? iObject->GetComponent() : nullptr;
+  if (component == nullptr || !component->IsAKindOf(MetaObject().Name())) return nullptr;
+  return static_cast<VelObject*>(component);
 }
 
 VelObject::VelObject(std::string_view iLateType, const VelMetaClass& iClass)

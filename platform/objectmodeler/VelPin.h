@@ -14,16 +14,24 @@
 class VEL_PLATFORM_API VelPin {
  public:
   explicit VelPin(VelComponent& iComponent) noexcept : component_(iComponent) {
-    if (component_.live_ == nullptr) MakeLivePart(component_);
-    ++component_.live_->pins;
     ++component_.count_;
+    Take(component_);
   }
   ~VelPin() {
-    if (--component_.live_->pins == 0 && component_.State() == VelComponentState::Closed) Destroy(component_);
+    Give(component_);
     if (--component_.count_ == 0) component_.OnUnreferenced();
   }
   VelPin(const VelPin&) = delete;
   VelPin& operator=(const VelPin&) = delete;
+
+  /// The pin without the reference, for those who hold one otherwise; each take is balanced by one give.
+  static void Take(VelComponent& ioComponent) noexcept {
+    if (ioComponent.live_ == nullptr) MakeLivePart(ioComponent);
+    ++ioComponent.live_->pins;
+  }
+  static void Give(VelComponent& ioComponent) noexcept {
+    if (--ioComponent.live_->pins == 0 && ioComponent.State() == VelComponentState::Closed) Destroy(ioComponent);
+  }
 
  private:
   static void MakeLivePart(VelComponent& ioComponent) noexcept;

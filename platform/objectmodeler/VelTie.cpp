@@ -7,6 +7,7 @@
 #include <new>
 
 #include "platform/base/VelCheck.h"
+#include "platform/base/VelExceptionText.h"
 #include "platform/objectmodeler/VelComponentAccess.h"
 #include "platform/objectmodeler/VelTiePool.h"
 
@@ -48,5 +49,5 @@ void VelTieService::End(void* iBlock, VelComponent& iComponent, VelImplementatio
 
 void VelTieService::ReportException(const char* iInterface, const VelImplementation& iImplementation) noexcept {
   VelCheck::Failed(VEL_HERE("platform/objectmodeler/VelTie"), iInterface,
-                   "An operation of an interface threw an exception", iImplementation.ClassName());
+                   "An operation of an interface threw an exception", VelExceptionText(iImplementation.ClassName()));
 }

@@ -51,6 +51,9 @@ constexpr Result VelClosedAnswer() noexcept {
 ///     };
 template <class Interface>
 class VelTie : public Interface {
+  static_assert(std::is_same_v<typename Interface::VelThisInterface, Interface>,
+                "An interface begins with VEL_INTERFACE");
+
  public:
   /// Takes over one reference on the implementation's component, which the caller has added.
   /// @param[in] iOwnsImplementation whether the implementation ends with this forwarder
@@ -77,13 +80,13 @@ class VelTie : public Interface {
 
   bool IsClosed() const noexcept { return component_->State() == VelComponentState::Closed; }
 
-  /// Hands a call to the implementation. The pin is what lets an operation end its own component, or drop the last
-  /// reference on its own forwarder.
+  /// Hands a call to the implementation. The operation may end its own component, and drop the last reference on its
+  /// own forwarder: both wait until the call has unwound.
   template <class Implementation, class Call>
   auto Forward(const Call& iCall) noexcept -> std::invoke_result_t<const Call&, Implementation&> {
     using Result = std::invoke_result_t<const Call&, Implementation&>;
     if (IsClosed()) return VelClosedAnswer<Result>();
-    const VelPin pin(*component_);
+    const RunningCall running(*this);
     try {
       return iCall(static_cast<Implementation&>(*implementation_));
     } catch (...) {
@@ -93,6 +96,24 @@ class VelTie : public Interface {
   }
 
  private:
+  /// Keeps the forwarder, through it the component, and what was built for the component.
+  class RunningCall {
+   public:
+    explicit RunningCall(VelTie& iForwarder) noexcept : forwarder_(iForwarder) {
+      ++forwarder_.count_;
+      VelPin::Take(*forwarder_.component_);
+    }
+    ~RunningCall() {
+      VelPin::Give(*forwarder_.component_);
+      forwarder_.Release();
+    }
+    RunningCall(const RunningCall&) = delete;
+    RunningCall& operator=(const RunningCall&) = delete;
+
+   private:
+    VelTie& forwarder_;
+  };
+
   std::uint32_t count_ = 1;
   bool ownsImplementation_;
   VelImplementation* implementation_;

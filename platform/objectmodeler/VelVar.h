@@ -17,6 +17,8 @@
 template <class Held>
 class VelVar {
   static_assert(std::is_base_of_v<VelBaseUnknown, Held>, "A handle holds an interface");
+  static_assert(std::is_same_v<typename Held::VelThisInterface, Held>,
+                "A handle holds an interface that begins with VEL_INTERFACE, not the class behind it");
 
  public:
   VelVar() noexcept = default;

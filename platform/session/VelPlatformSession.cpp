@@ -9,11 +9,13 @@
 #include "platform/base/VelCallOnExit.h"
 #include "platform/base/VelCheck.h"
 #include "platform/base/VelEnvironment.h"
+#include "platform/base/VelExceptionText.h"
 #include "platform/base/VelThreadBinding.h"
 #include "platform/base/VelToken.h"
 #include "platform/base/system/VelSystemFile.h"
 #include "platform/objectmodeler/VelDictionary.h"
-#include "platform/trace/QrnSysTrace.h"
+#include "platform/objectmodeler/VelInstanceCounts.h"
+#include "platform/trace/VelTraceHandle.h"
 #include "platform/trace/VelTraceService.h"
 
 VelPlatformSession* VelPlatformSession::current = nullptr;
@@ -27,17 +29,36 @@ std::vector<VelSessionParticipant*>& Participants() {
   return participants;
 }
 
-void ReportError(const std::string& iText) {
-  QrnSysTrace* trace = QrnSysTraceCreate("VelPlatformSession");
-  if (trace == nullptr) return;
-  trace->Error(VEL_HERE(sourceText), "%s", iText);
-  QrnSysTraceDestroy(trace);
+constexpr const char* channel = "VelPlatformSession";
+
+void ReportError(const std::string& iText) { VelTraceHandle(channel).Error(VEL_HERE(sourceText), "%s", iText); }
+
+/// Starts a service; one that throws has failed.
+HRESULT StartService(VelSessionParticipant& ioService, const VelPlatformOptions& iOptions) noexcept {
+  try {
+    return ioService.OnSessionStart(iOptions);
+  } catch (...) {
+    VelCheck::Failed(VEL_HERE(sourceText), "OnSessionStart()", "A service threw an exception when the session started",
+                     VelExceptionText("OnSessionStart"));
+    return E_FAIL;
+  }
 }
 
-bool Exists(const std::string& iPath) {
-  std::string path;
-  std::string cause;
-  return SUCCEEDED(VelSystemFile::CanonicalPath(iPath, path, cause));
+void EndService(VelSessionParticipant& ioService) noexcept {
+  try {
+    ioService.OnSessionEnd();
+  } catch (...) {
+    VelCheck::Failed(VEL_HERE(sourceText), "OnSessionEnd()", "A service threw an exception when the session ended",
+                     VelExceptionText("OnSessionEnd"));
+  }
+}
+
+/// Objects that outlive the session answer with what is built, and with nothing that would have to be built.
+void WarnOfLiveObjects() {
+  const VelInstanceCounts left = VelInstanceCounts::Now();
+  if (left.components == 0) return;
+  VelTraceHandle(channel).Warning("Objects outlive the session { components = %d, forwarders = %d }", left.components,
+                                  left.forwarders);
 }
 
 bool IsFolder(const std::string& iPath) {
@@ -76,17 +97,20 @@ HRESULT VelPlatformSession::Start(const VelPlatformOptions& iOptions) {
 }
 
 HRESULT VelPlatformSession::End() noexcept {
-  if (!IsRunning()) return S_FALSE;
+  if (!IsRunning() || ending_) return S_FALSE;
+  ending_ = true;
   VelPlatformTerminate();
   Stop();
+  WarnOfLiveObjects();
+  ending_ = false;
   return S_OK;
 }
 
 std::string VelPlatformSession::Locate(const std::string& iPath) const {
-  if (Exists(iPath)) return iPath;
+  if (VelSystemFile::Exists(iPath)) return iPath;
   if (iPath.empty() || iPath.front() == '/') return {};
   for (const std::string& folder : options_.searchFolders) {
-    if (std::string candidate = folder + '/' + iPath; Exists(candidate)) return candidate;
+    if (std::string candidate = folder + '/' + iPath; VelSystemFile::Exists(candidate)) return candidate;
   }
   return {};
 }
@@ -101,10 +125,15 @@ void VelPlatformSession::AddParticipant(VelSessionParticipant& iParticipant) {
 HRESULT VelPlatformSession::LoadDictionaries() {
   VelDictionary::SetLibraryFolders(options_.searchFolders);
   LoadDictionariesOfEnvironment();
+  for (const std::string& folder : options_.searchFolders) {
+    if (!IsFolder(folder)) VelTraceHandle(channel).Warning("The search folder '%s' cannot be read", folder);
+  }
   for (const std::string& dictionary : options_.dictionaries) {
     const std::string path = Locate(dictionary);
     if (path.empty()) {
-      ReportError("The dictionary '" + dictionary + "' is neither in the current folder nor in a search folder");
+      ReportError(
+          "The dictionary '" + dictionary + "' " +
+          (dictionary.starts_with('/') ? "does not exist" : "is neither in the current folder nor in a search folder"));
       return E_FAIL;
     }
     if (!LoadDictionary(path)) return E_FAIL;
@@ -113,9 +142,9 @@ HRESULT VelPlatformSession::LoadDictionaries() {
 }
 
 bool VelPlatformSession::LoadDictionary(const std::string& iPath) {
-  const HRESULT result = IsFolder(iPath) ? VelDictionary::LoadFolder(iPath) : VelDictionary::LoadFile(iPath);
-  if (result == S_FALSE) return true;
-  loaded_.push_back(iPath);
+  if (IsFolder(iPath)) return SUCCEEDED(VelDictionary::LoadFolder(iPath, &loaded_));
+  const HRESULT result = VelDictionary::LoadFile(iPath);
+  if (result == S_OK) loaded_.push_back(iPath);
   return SUCCEEDED(result);
 }
 
@@ -124,7 +153,8 @@ void VelPlatformSession::LoadDictionariesOfEnvironment() {
   if (!VelEnvironment::Get("VEL_DICTIONARY_PATH", paths)) return;
   VelToken token(paths, ":");
   for (VelString path = token.Next(); !path.IsEmpty(); path = token.Next()) {
-    static_cast<void>(LoadDictionary(std::string(path.View())));
+    if (LoadDictionary(std::string(path.View()))) continue;
+    VelTraceHandle(channel).Warning("VEL_DICTIONARY_PATH names '%s', which is left out", path);
   }
 }
 
@@ -133,15 +163,18 @@ HRESULT VelPlatformSession::StartServices() {
       !IsRead(options_.configurations, &VelSessionInputs::configurations, "configurations")) {
     return E_FAIL;
   }
-  for (VelSessionParticipant* participant : Participants()) {
-    VEL_RETURN_IF_FAILED(participant->OnSessionStart(options_));
-    started_.push_back(participant);
+  // A service that is added by another one's start takes part from the next session on.
+  const std::size_t count = Participants().size();
+  for (std::size_t i = 0; i < count; ++i) {
+    VelSessionParticipant& participant = *Participants()[i];
+    VEL_RETURN_IF_FAILED(StartService(participant, options_));
+    started_.push_back(&participant);
   }
   return S_OK;
 }
 
 void VelPlatformSession::Stop() noexcept {
-  for (; !started_.empty(); started_.pop_back()) started_.back()->OnSessionEnd();
+  for (; !started_.empty(); started_.pop_back()) EndService(*started_.back());
   for (; !loaded_.empty(); loaded_.pop_back()) static_cast<void>(VelDictionary::Unload(loaded_.back()));
   VelDictionary::SetLibraryFolders({});
   VelTraceService::Flush();

@@ -29,8 +29,9 @@ class VEL_PLATFORM_API VelPlatformSession {
   ///         refused, or when no service reads an input that is given; else the code of the service that failed
   HRESULT Start(const VelPlatformOptions& iOptions = {});
 
-  /// Ends the platform: the exit hooks run, the services end, the dictionaries are unloaded.
-  /// @return S_OK; S_FALSE when this session is not running
+  /// Ends the platform: the exit hooks run, the services end, the dictionaries are unloaded. Components that are alive
+  /// stay alive, as far as they are built: their number is a warning, since a host should have released them before.
+  /// @return S_OK; S_FALSE when this session is not running, or is ending already
   HRESULT End() noexcept;
 
   bool IsRunning() const noexcept { return current == this; }
@@ -55,7 +56,8 @@ class VEL_PLATFORM_API VelPlatformSession {
   static VelPlatformSession* current;
 
   VelPlatformOptions options_;
-  std::vector<std::string> loaded_;              ///< The dictionary files and folders that this session loaded.
+  bool ending_ = false;
+  std::vector<std::string> loaded_;              ///< The dictionary files that this session loaded.
   std::vector<VelSessionParticipant*> started_;  ///< The services that this session started.
 };
 

@@ -21,7 +21,7 @@ struct VelExRgb {
 /// Thread: the application thread. Re-entrancy: none.
 class VEL_EX_INTERFACES_API VelIExColor : public VelBaseUnknown {
  public:
-  static const VelInterfaceId& InterfaceId() noexcept { return IID_VelIExColor; }
+  VEL_INTERFACE(VelIExColor);
 
   /// @return S_OK; S_FALSE when it is the colour already; E_INVALIDARG when a component is not within 0 to 1
   virtual HRESULT SetColor(const VelExRgb& iColor) = 0;

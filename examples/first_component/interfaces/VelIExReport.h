@@ -15,7 +15,7 @@ VEL_EX_INTERFACES_API extern const VelInterfaceId IID_VelIExReport;
 /// Thread: the application thread. Re-entrancy: none.
 class VEL_EX_INTERFACES_API VelIExReport : public VelBaseUnknown {
  public:
-  static const VelInterfaceId& InterfaceId() noexcept { return IID_VelIExReport; }
+  VEL_INTERFACE(VelIExReport);
 
   /// @param[out] oText the swatch in words
   /// @return S_OK; E_FAIL when the swatch has no colour or is closed, with oText untouched

@@ -42,6 +42,15 @@ HRESULT DictionaryScope::LoadModule(std::string_view iName, std::string_view iMo
 
 HRESULT DictionaryScope::Unload(std::string_view iName) const { return VelDictionary::Unload(Path(iName)); }
 
+std::vector<std::string> DictionaryScope::TakeWarnings() {
+  std::vector<std::string> texts;
+  for (const VelDiagnosticEntry& entry : diagnostics_.Entries()) {
+    if (entry.kind == VelTraceKind::Warning) texts.emplace_back(entry.text);
+  }
+  diagnostics_.Clear();
+  return texts;
+}
+
 std::vector<std::string> DictionaryScope::TakeErrors() {
   std::vector<std::string> texts;
   for (const VelDiagnosticEntry& entry : diagnostics_.Entries()) {

@@ -29,6 +29,9 @@ class DictionaryScope {
   /// @return the path of an entry of the folder, as the dictionary's messages name it; the folder itself without a name
   std::string Path(std::string_view iName = {}) const;
 
+  /// @return the warnings since the last call of this or of TakeErrors
+  std::vector<std::string> TakeWarnings();
+
   /// @return the path of the file
   std::string Write(std::string_view iName, std::string_view iText) const { return folder_.Write(iName, iText); }
 

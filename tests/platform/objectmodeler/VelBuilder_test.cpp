@@ -114,7 +114,7 @@ TEST_F(VelBuilderTest, Constructor_ThatThrows_IsACheckAndNoInterface) {
   EXPECT_FALSE(VelVar<VelTestIFaulty>(hThing));
   ASSERT_EQ(failures.Failures().size(), 1U);
   EXPECT_EQ(failures.Failures()[0].message, "The construction of an implementation threw an exception");
-  EXPECT_EQ(failures.Failures()[0].detail, "VelTestFaulty");
+  EXPECT_EQ(failures.Failures()[0].detail, "VelTestFaulty: construction");
   VelTestScript::Current().inFaultyConstructor = nullptr;
   EXPECT_TRUE(VelVar<VelTestIFaulty>(hThing)) << "the next query tries again";
 }
@@ -141,6 +141,51 @@ TEST_F(VelBuilderTest, Constructor_ThatAsksForItsOwnInterface_GetsNoneAndACheck)
   EXPECT_EQ(failures.Failures()[0].message,
             "A constructor asks for an interface that it is about to answer; OnAttached may");
   EXPECT_EQ(VelInstanceCounts::Now().implementations, 1);
+}
+
+TEST_F(VelBuilderTest, Constructor_ThatEndsItsComponent_LeavesNothingBehind) {
+  const VelBaseUnknown_var hThing = MakeThing();
+  VelTestScript::Current().inFaultyConstructor = [](VelComponent& ioComponent) {
+    VelObject::From(&ioComponent)->EndLife();
+  };
+  EXPECT_FALSE(VelVar<VelTestIFaulty>(hThing));
+  EXPECT_EQ(VelInstanceCounts::Now().implementations, 0);
+}
+
+TEST_F(VelBuilderTest, CreationByReference_ThatAsksForItself_GetsNoneAndACheck) {
+  const VelBaseUnknown_var hThing = MakeThing();
+  int nested = 0;
+  VelTestScript::Current().inMoodConstructor = [&](VelComponent& ioComponent) {
+    ++nested;
+    EXPECT_FALSE(nested == 1 ? static_cast<bool>(VelTestIMood_var(&ioComponent))
+                             : static_cast<bool>(VelTestIView_var(&ioComponent)));
+  };
+  const RecordingFailureObserver failures;
+  EXPECT_TRUE(VelTestIMood_var(hThing));
+  EXPECT_TRUE(VelTestIView_var(hThing));
+  EXPECT_EQ(nested, 2);
+  EXPECT_EQ(failures.Failures().size(), 2U);
+}
+
+TEST_F(VelBuilderTest, CreationByReference_ThatEndsItsComponent_IsNoInterface) {
+  const VelBaseUnknown_var hThing = MakeThing();
+  VelTestScript::Current().inMoodConstructor = [](VelComponent& ioComponent) {
+    VelObject::From(&ioComponent)->EndLife();
+  };
+  EXPECT_FALSE(VelTestIMood_var(hThing));
+  EXPECT_EQ(VelInstanceCounts::Now().implementations, 0);
+  EXPECT_EQ(VelInstanceCounts::Now().forwarders, 0);
+}
+
+TEST_F(VelBuilderTest, Father_ThatIsClosedWhileTheFathersAreBuilt_IsPassedOver) {
+  const VelBaseUnknown_var hRoot = VelTestNodeObject::Create(1);
+  const VelBaseUnknown_var hMiddle = VelTestNodeObject::Create(2, NodeOf(hRoot));
+  const VelBaseUnknown_var hChild = VelTestNodeObject::Create(3, NodeOf(hMiddle));
+  VelTestScript::Current().inNodeConstructor = [&](VelComponent& ioComponent) {
+    if (&ioComponent == hRoot->GetComponent()) End(hMiddle);
+  };
+  EXPECT_TRUE(VelTestINode_var(hChild));
+  EXPECT_EQ(Notes(), (Texts{"construct 1", "construct 3", "attach 1", "attach 3"}));
 }
 
 TEST_F(VelBuilderTest, SecondPhase_MayAskForItsOwnInterface) {

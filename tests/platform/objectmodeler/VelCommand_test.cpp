@@ -17,8 +17,19 @@ class LonelyCommand final : public VelCommand {
     return VelBaseUnknown_var::Adopt(new LonelyCommand(iParent, iName, metaClass));
   }
 
+  ~LonelyCommand() override {
+    const VelBaseUnknown_var self(static_cast<VelBaseUnknown*>(this));
+    if (destroyed != nullptr) *destroyed = true;
+  }
+  LonelyCommand& operator=(const LonelyCommand&) = default;
+
+  VelBaseUnknown_var Copy() const { return VelBaseUnknown_var::Adopt(new LonelyCommand(*this)); }
+
+  bool* destroyed = nullptr;
+
  private:
   using VelCommand::VelCommand;
+  LonelyCommand(const LonelyCommand&) = default;
 };
 
 using VelCommandTest = ObjectModelerTest;
@@ -42,6 +53,36 @@ TEST_F(VelCommandTest, Command_KnowsItsParentAndItsName) {
   EXPECT_TRUE(CommandOf(hParent).GetName().IsEmpty());
   EXPECT_EQ(CommandOf(hCommand).GetParent(), &CommandOf(hParent));
   EXPECT_EQ(CommandOf(hCommand).GetName(), VelString("copy"));
+}
+
+TEST_F(VelCommandTest, Copy_HasTheSameParentAndNameAndIsAComponentOfItsOwn) {
+  const VelBaseUnknown_var hParent = LonelyCommand::Make(nullptr, nullptr);
+  const VelBaseUnknown_var hCommand = LonelyCommand::Make(&CommandOf(hParent), "original");
+  const VelBaseUnknown_var hCopy = static_cast<LonelyCommand&>(CommandOf(hCommand)).Copy();
+  EXPECT_FALSE(hCopy->IsEqual(hCommand.Get()));
+  EXPECT_EQ(CommandOf(hCopy).GetName(), VelString("original"));
+  EXPECT_EQ(CommandOf(hCopy).GetParent(), &CommandOf(hParent));
+  EXPECT_TRUE(VelTestIShared_var(hCopy));
+  static_cast<LonelyCommand&>(CommandOf(hCopy)) = static_cast<LonelyCommand&>(CommandOf(hParent));
+  EXPECT_TRUE(CommandOf(hCopy).GetName().IsEmpty());
+  EXPECT_EQ(CommandOf(hCopy).GetParent(), nullptr);
+}
+
+TEST_F(VelCommandTest, Destructor_MayTakeAHandleOnItsOwnObject) {
+  bool destroyed = false;
+  {
+    const VelBaseUnknown_var hCommand = LonelyCommand::Make(nullptr, nullptr);
+    static_cast<LonelyCommand&>(CommandOf(hCommand)).destroyed = &destroyed;
+  }
+  EXPECT_TRUE(destroyed);
+}
+
+TEST_F(VelCommandTest, From_GivesTheObjectBehindAPointerOrNone) {
+  const VelBaseUnknown_var hObject = VelObject::Create("VelTestThing", nullptr);
+  EXPECT_STREQ(hObject->IsA(), "VelObject") << "without a class name it is a plain object";
+  EXPECT_EQ(VelObject::From(VelTestIValue_var(hObject).Get()), hObject->GetComponent());
+  EXPECT_EQ(VelObject::From(nullptr), nullptr);
+  EXPECT_EQ(hObject->GetComponent()->LateTypeName(), "VelTestThing");
 }
 
 TEST_F(VelCommandTest, Object_HasALateTypeAndAClassOfItsOwn) {

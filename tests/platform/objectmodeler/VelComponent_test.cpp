@@ -3,6 +3,10 @@
 /// @file VelComponent_test.cpp What a query answers, by every mechanism, and what happens at the end of a component.
 #include "platform/objectmodeler/VelComponent.h"
 
+#include <thread>
+
+#include "platform/base/VelFatalErrorService.h"
+#include "platform/base/VelThreadBinding.h"
 #include "platform/objectmodeler/VelBaseUnknown_WR.h"
 #include "platform/objectmodeler/VelIDelegation.h"
 #include "platform/objectmodeler/VelInstanceCounts.h"
@@ -230,7 +234,7 @@ TEST_F(VelComponentTest, Operation_ThatThrows_IsACheckAndAFailure) {
   ASSERT_EQ(failures.Failures().size(), 1U);
   EXPECT_EQ(failures.Failures()[0].message, "An operation of an interface threw an exception");
   EXPECT_EQ(failures.Failures()[0].expression, "VelTestIValue");
-  EXPECT_EQ(failures.Failures()[0].detail, "VelTestValue");
+  EXPECT_EQ(failures.Failures()[0].detail, "VelTestValue: An empty handle of VelTestIValue was used");
 }
 
 TEST_F(VelComponentTest, Operations_OfAClosedComponent_FailOrAnswerZero) {
@@ -301,6 +305,80 @@ TEST_F(VelComponentTest, Close_InsideAnOperationOfItsOwn_WaitsUntilTheCallUnwind
   EXPECT_EQ(Notes(), (Texts{"state 1 to 2", "still running", "value destroyed"}));
   EXPECT_EQ(hValue->EndOwnLife(), E_FAIL);
 }
+
+TEST_F(VelComponentTest, Operation_ThatDropsTheLastForwarderAndThrows_IsSafe) {
+  VelBaseUnknown_var hThing = MakeThing();
+  VelTestIValue_var hValue(hThing);
+  VelTestScript::Current().inOperation = [&] {
+    hThing = nullptr;
+    VelTestIValue* const last = hValue.Detach();
+    last->Release();
+  };
+  VelTestIValue* const value = hValue.Get();
+  const RecordingFailureObserver failures;
+  EXPECT_EQ(value->DropAndFail(), E_FAIL);
+  EXPECT_EQ(failures.Failures().size(), 1U);
+  EXPECT_EQ(Notes(), (Texts{"state 1 to 2", "value destroyed"})) << "after the call";
+  EXPECT_EQ(VelInstanceCounts::Now(), VelInstanceCounts{});
+}
+
+TEST_F(VelComponentTest, Operation_ThatDropsItsOwnForwarder_KeepsAnImplementationThatLivesByReference) {
+  const VelBaseUnknown_var hThing = MakeThing();
+  VelTestIMood_var hMood(hThing);
+  VelTestIMood* const mood = hMood.Get();
+  VelTestScript::Current().inOperation = [&] { hMood = nullptr; };
+  EXPECT_EQ(mood->Answer(), 2);
+  EXPECT_EQ(VelInstanceCounts::Now().implementations, 0);
+}
+
+TEST_F(VelComponentTest, StateChange_WhoseHandlerPinsItsComponent_DestroysNothingUnderTheAnnouncement) {
+  const VelBaseUnknown_var hThing = MakeThing();
+  ASSERT_TRUE(VelTestIShared_var(hThing));
+  ASSERT_TRUE(VelTestIValue_var(hThing));
+  VelTestScript::Current().inStateChange = [](VelComponent& ioComponent) {
+    const VelPin pin(ioComponent);
+    EXPECT_FALSE(VelTestIMood_var(&ioComponent));
+    VelTestIShared_var hShared(&ioComponent);
+    ASSERT_TRUE(hShared) << "what is built still answers";
+    EXPECT_EQ(hShared->Answer(), 0);
+  };
+  End(hThing);
+  EXPECT_EQ(Notes(), (Texts{"state 1 to 2", "value destroyed"}));
+}
+
+TEST_F(VelComponentTest, Destructor_ThatPinsItsComponent_StartsNoOtherRoundOfDestruction) {
+  const VelBaseUnknown_var hThing = MakeThing();
+  ASSERT_TRUE(VelTestIShared_var(hThing));
+  ASSERT_TRUE(VelTestIValue_var(hThing));
+  VelTestScript::Current().inDestructor = [](VelComponent& ioComponent) {
+    const int before = VelInstanceCounts::Now().implementations;
+    { const VelPin pin(ioComponent); }
+    EXPECT_EQ(VelInstanceCounts::Now().implementations, before) << "the older ones wait for their turn";
+  };
+  End(hThing);
+  EXPECT_EQ(VelInstanceCounts::Now().implementations, 0);
+}
+
+#if !defined(NDEBUG)
+TEST_F(VelComponentTest, Query_FromAnotherThreadThanTheBoundOne_IsUnexpectedAndAnAssertion) {
+  class Handler final : public VelFatalErrorHandler {
+   public:
+    void OnFatalError(const VelFailureReport& iReport) override { message = iReport.message; }
+    std::string message;
+  } handler;
+  const VelBaseUnknown_var hThing = MakeThing();
+  VelFatalErrorService::SetHandler(&handler);
+  VelThreadBinding::Bind();
+  HRESULT result = S_OK;
+  VelBaseUnknown* answer = hThing.Get();
+  std::thread([&] { result = hThing->QueryInterface(IID_VelTestIValue, &answer); }).join();
+  VelThreadBinding::Unbind();
+  VelFatalErrorService::SetHandler(nullptr);
+  EXPECT_EQ(result, E_UNEXPECTED);
+  EXPECT_EQ(answer, nullptr);
+  EXPECT_EQ(handler.message, "AssertionFailed:VelThreadBinding::IsBoundThread()");
+}
+#endif
 
 TEST_F(VelComponentTest, LastRelease_WithoutAnExplicitEnd_ClosesAndDestroys) {
   VelBaseUnknown_var hThing = MakeThing();

@@ -128,10 +128,30 @@ TEST(VelDictionaryReaderTest, LibraryName_MayHoldAnythingButBlanks) {
   EXPECT_EQ(reading.modules.front().library, "/a-b/../c+d/l\xC3\xA9#1.so.2");
 }
 
-TEST(VelDictionaryReaderTest, FileWithoutModules_IsADictionary) {
+TEST(VelDictionaryReaderTest, FileWithoutModules_IsRefused) {
   const Reading reading = Read("# nothing yet\nvelrsh-dictionary 1");
-  EXPECT_TRUE(reading.accepted);
-  EXPECT_TRUE(reading.modules.empty());
+  EXPECT_FALSE(reading.accepted);
+  EXPECT_EQ(reading.fault.line, 2U);
+  EXPECT_EQ(reading.fault.cause, "the file declares no module, expected a 'module' line");
+}
+
+TEST(VelDictionaryReaderTest, StatementsUpToTheLimit_AreTaken_AndNoneBeyond) {
+  std::string text = head + "module M\nframework F\nlibrary l.so\n";
+  for (int i = 3; i < 32768; ++i) text += "type T" + std::to_string(i) + " B\n";
+  EXPECT_TRUE(Read(text).accepted);
+  const Reading reading = Read(text + "type T B\n");
+  EXPECT_FALSE(reading.accepted);
+  EXPECT_EQ(reading.fault.line, 32770U);
+  EXPECT_EQ(reading.fault.cause, "a dictionary holds at most 32768 statements");
+}
+
+TEST(VelDictionaryReaderTest, ClassWithRowsOfBothLifetimes_IsRefused) {
+  const Reading reading = Read(head +
+                               "module M\nframework F\nlibrary l.so\nclass C Extension\nbind T I TIE Component C\n"
+                               "bind T J TIE Reference C\n");
+  EXPECT_FALSE(reading.accepted);
+  EXPECT_EQ(reading.fault.line, 7U);
+  EXPECT_EQ(reading.fault.cause, "the class 'C' has the other lifetime in a row before this one");
 }
 
 struct FaultCase {

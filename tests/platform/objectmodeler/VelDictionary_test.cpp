@@ -276,7 +276,8 @@ TEST_F(VelDictionaryTest, LateTypeThatNobodyKnows_AnswersWhatEveryComponentAnswe
 
 TEST_F(VelDictionaryTest, Folder_IsLoadedInTheOrderOfNames_AndAFaultyFileStopsNoOther) {
   // The second file to bind the same row is the one that is refused, so the order shows.
-  scope_.Write("2.dictionary", ModuleText("VelTestTwo", numberRow));
+  scope_.Write("2.dictionary",
+               ModuleText("VelTestTwo", "class E Extension\nbind VelTestDictThing VelITestNumber TIE Reference E\n"));
   scope_.Write("10.dictionary", ModuleText("VelTestTen", numberRow));
   scope_.Write("1.dictionary", "velrsh-dictionary 1\nmodul VelTestBroken\n");
   scope_.Write("3.dictionary",
@@ -297,11 +298,29 @@ TEST_F(VelDictionaryTest, Folder_IsLoadedInTheOrderOfNames_AndAFaultyFileStopsNo
   EXPECT_EQ(VelDictionary::Unload(scope_.Path()), S_FALSE);
 }
 
-TEST_F(VelDictionaryTest, FolderLoadedTwice_ChangesNothing_AndAnEmptyOneIsNoError) {
+TEST_F(VelDictionaryTest, ClassThatAnotherModuleDeclares_IsRefused) {
+  ASSERT_EQ(scope_.Load("a.dictionary", ModuleText("VelTestOne", numberRow)), S_OK);
+  // On a type of its own, so that the rows themselves do not contradict each other.
+  EXPECT_EQ(scope_.Load("b.dictionary", ModuleText("VelTestTwo",
+                                                   "class C Extension\n"
+                                                   "bind VelTestDictOther VelITestText TIE Reference C\n")),
+            E_FAIL);
+  EXPECT_EQ(scope_.TakeErrors(), Texts{"b.dictionary:5: the class 'C' is declared already by 'a.dictionary'"});
+  EXPECT_FALSE(Offers("VelTestDictOther", IID_VelITestText));
+}
+
+TEST_F(VelDictionaryTest, FolderWithoutDictionaries_IsAWarning) {
   EXPECT_EQ(VelDictionary::LoadFolder(scope_.Path()), S_OK);
+  EXPECT_EQ(scope_.TakeWarnings().size(), 1U);
+}
+
+TEST_F(VelDictionaryTest, FolderLoadedTwice_ChangesNothing_AndTellsWhichFilesItLoaded) {
   scope_.Write("a.dictionary", ModuleText("VelTestOne", numberRow));
-  EXPECT_EQ(VelDictionary::LoadFolder(scope_.Path()), S_OK);
-  EXPECT_EQ(VelDictionary::LoadFolder(scope_.Path()), S_OK);
+  std::vector<std::string> files;
+  EXPECT_EQ(VelDictionary::LoadFolder(scope_.Path(), &files), S_OK);
+  EXPECT_EQ(files, Texts{scope_.Path("a.dictionary")});
+  EXPECT_EQ(VelDictionary::LoadFolder(scope_.Path(), &files), S_OK);
+  EXPECT_EQ(files.size(), 1U) << "the second time there was nothing to load";
   EXPECT_EQ(FrameworkOfNumber(), "FrameworkOfVelTestOne");
   EXPECT_EQ(scope_.TakeErrors(), Texts{});
 }

@@ -78,7 +78,8 @@ TEST_F(VelIdentityTest, NullHandleErrorInAPlugin_EndsAtTheForwarder_AsACheckAndE
     ASSERT_EQ(observer.Messages(), Texts{"An operation of an interface threw an exception"});
     EXPECT_EQ(observer.Failures().front().kind, VelFailureKind::Check);
     EXPECT_EQ(observer.Failures().front().expression, "VelITestIdentity");
-    EXPECT_EQ(observer.Failures().front().detail, each.className);
+    EXPECT_EQ(observer.Failures().front().detail,
+              std::string(each.className) + ": An empty handle of VelITestIdentity was used");
   }
 }
 

@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "platform/objectmodeler/VelBaseUnknown_WR.h"
+#include "platform/objectmodeler/VelIDelegation.h"
 #include "platform/objectmodeler/VelInstanceCounts.h"
 #include "tests/platform/objectmodeler/ObjectModelerTest.h"
 
@@ -29,6 +30,10 @@ static_assert(!std::is_constructible_v<VelTestIValue_var, int>);
 static_assert(!std::is_constructible_v<VelTestIValue_var, std::string*>);
 static_assert(std::is_convertible_v<std::nullptr_t, VelTestIValue_var>);
 static_assert(std::is_nothrow_move_constructible_v<VelTestIValue_var>);
+template <class Held>
+concept HasOwnIdentifier = std::is_same_v<typename Held::VelThisInterface, Held>;
+static_assert(HasOwnIdentifier<VelTestIValue> && HasOwnIdentifier<VelBaseUnknown>);
+static_assert(!HasOwnIdentifier<VelComponent> && !HasOwnIdentifier<VelTestValue>, "no handle holds a class");
 static_assert(sizeof(VelTestIValue_var) == sizeof(void*));
 
 template <class Left, class Right>
@@ -80,17 +85,19 @@ TEST_F(VelVarTest, Assignment_ToItself_KeepsTheOnlyReference) {
 }
 
 TEST_F(VelVarTest, Assignment_TakesTheNewReferenceBeforeItDropsTheOld) {
-  // The delegate is kept by the component that the handle itself keeps: dropping first would end it.
-  struct Chain {
-    VelBaseUnknown_var hNext;
-  };
-  VelBaseUnknown_var hThing = MakeThing();
-  const VelTestIValue_var hValue(hThing);
-  hThing = VelBaseUnknown_var(hValue);
-  EXPECT_EQ(hValue->Count(), 7);
-  VelBaseUnknown* const before = hThing.Get();
-  hThing = VelBaseUnknown_var(hThing.Get());
-  EXPECT_EQ(hThing.Get(), before);
+  // The thing is held by the delegation of another, which only the handle itself holds.
+  VelBaseUnknown_var hHead = MakeThing();
+  {
+    const VelBaseUnknown_var hNext = MakeThing();
+    ASSERT_EQ(VelIDelegation_var(hHead)->SetDelegate(hNext.Get()), S_OK);
+  }
+  const VelBaseUnknown_WR head(hHead.Get());
+  VelBaseUnknown* next = nullptr;
+  ASSERT_EQ(VelIDelegation_var(hHead)->GetDelegate(&next), S_OK);
+  next->Release();
+  hHead = VelBaseUnknown_var(next);
+  EXPECT_EQ(head.Get(), nullptr) << "the old object went";
+  EXPECT_TRUE(VelTestIValue_var(hHead)) << "and the new one lives";
 }
 
 TEST_F(VelVarTest, Move_LeavesTheSourceEmpty) {
@@ -121,7 +128,7 @@ TEST_F(VelVarTest, EmptyHandle_ThrowsTheNullHandleErrorWhereItIsUsed) {
     static_cast<void>(none->Count());
     FAIL() << "expected the null-handle error";
   } catch (const VelNullHandleError& error) {
-    EXPECT_STREQ(error.what(), "An empty interface handle was used");
+    EXPECT_STREQ(error.what(), "An empty handle of VelTestIValue was used");
     EXPECT_STREQ(error.Interface(), "VelTestIValue");
   }
   EXPECT_THROW(static_cast<void>(*none), VelNullHandleError);

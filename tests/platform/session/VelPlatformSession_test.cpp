@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
+#include <stdexcept>
 #include <string>
 #include <thread>
 #include <vector>
@@ -15,9 +17,11 @@
 #include "platform/base/VelCallOnExit.h"
 #include "platform/base/VelThreadBinding.h"
 #include "platform/objectmodeler/VelDictionary.h"
+#include "platform/objectmodeler/VelObject.h"
 #include "platform/trace/QrnSysTrace.h"
 #include "platform/trace/VelTraceRecorder.h"
 #include "platform/trace/VelTraceService.h"
+#include "tests/support/VelFailureRecorder.h"
 
 namespace {
 
@@ -175,6 +179,38 @@ TEST_F(VelPlatformSessionTest, Inputs_ThatNoServiceReads_AreRefused) {
   }
 }
 
+TEST_F(VelPlatformSessionTest, FolderOfWhichAFileWasLoadedBefore_LosesOnlyWhatTheSessionLoaded) {
+  const std::string before = Write("more/one.dictionary", "SessionOne");
+  Write("more/two.dictionary", "SessionTwo");
+  ASSERT_EQ(VelDictionary::LoadFile(before), S_OK);
+  VelPlatformSession session;
+  ASSERT_EQ(session.Start({.dictionaries = {(folder_ / "more").string()}}), S_OK);
+  EXPECT_EQ(FrameworkOf("SessionTwo"), "SessionTests");
+  EXPECT_EQ(session.End(), S_OK);
+  EXPECT_EQ(FrameworkOf("SessionOne"), "SessionTests");
+  EXPECT_EQ(FrameworkOf("SessionTwo"), "");
+  EXPECT_EQ(VelDictionary::Unload(before), S_OK);
+}
+
+TEST_F(VelPlatformSessionTest, AbsolutePathThatDoesNotExist_IsSaidToBeJustThat) {
+  VelPlatformSession session;
+  EXPECT_EQ(session.Start({.dictionaries = {"/nowhere/at/all"}}), E_FAIL);
+  EXPECT_EQ(Errors(), Texts{"The dictionary '/nowhere/at/all' does not exist"});
+  EXPECT_EQ(session.Start({.dictionaries = {""}}), E_FAIL);
+}
+
+TEST_F(VelPlatformSessionTest, WhatIsOddButNoFailure_IsAWarning) {
+  ::setenv("VEL_DICTIONARY_PATH", "/nowhere/at/all", 1);
+  const VelBaseUnknown_var hLeft = VelObject::Create("SessionOne", nullptr);
+  VelPlatformSession session;
+  EXPECT_EQ(session.Start({.searchFolders = {"/no/folder"}}), S_OK);
+  EXPECT_EQ(session.End(), S_OK);
+  EXPECT_EQ(recorder_.Texts(VelTraceKind::Warning),
+            (Texts{"VEL_DICTIONARY_PATH names '/nowhere/at/all', which is left out",
+                   "The search folder '/no/folder' cannot be read",
+                   "Objects outlive the session { components = 1, forwarders = 0 }"}));
+}
+
 /// A service that notes its start and end while the test runs, and stays silent afterwards: participants are for ever.
 class Participant final : public VelSessionParticipant {
  public:
@@ -183,13 +219,17 @@ class Participant final : public VelSessionParticipant {
   VelSessionInputs Inputs() const noexcept override { return {}; }
   HRESULT OnSessionStart(const VelPlatformOptions&) override {
     if (notes != nullptr) notes->push_back("start " + name_);
+    if (inStart) inStart();
     return result;
   }
   void OnSessionEnd() override {
     if (notes != nullptr) notes->push_back("end " + name_);
+    if (inEnd) inEnd();
   }
 
   HRESULT result = S_OK;
+  std::function<void()> inStart;
+  std::function<void()> inEnd;
   static Texts* notes;
 
  private:
@@ -204,6 +244,19 @@ Participant& First() {
 Participant& Second() {
   static auto& participant = *new Participant("second");
   return participant;
+}
+
+/// Adds a service that stays for the rest of the process.
+void Add() {
+  static int count = 0;
+  static_cast<void>(new Participant(std::to_string(++count)));
+}
+
+/// Without the notes of the services that one of the tests adds for the rest of the process.
+Texts NotesOfTheTwo(Texts iNotes) {
+  std::erase_if(iNotes,
+                [](const std::string& iNote) { return iNote.find_first_of("0123456789") != std::string::npos; });
+  return iNotes;
 }
 
 int NoteHook(int) {
@@ -226,7 +279,8 @@ TEST_F(VelPlatformSessionTest, Services_StartInOrderAndEndInReverseAfterTheExitH
   ASSERT_EQ(session.Start({.dictionaries = {file}}), S_OK);
   VelCallOnExit(&NoteHook, 3);
   EXPECT_EQ(session.End(), S_OK);
-  EXPECT_EQ(notes, (Texts{"start first", "start second", "hook, dictionary there", "end second", "end first"}));
+  EXPECT_EQ(NotesOfTheTwo(notes),
+            (Texts{"start first", "start second", "hook, dictionary there", "end second", "end first"}));
   Participant::notes = nullptr;
 }
 
@@ -237,10 +291,62 @@ TEST_F(VelPlatformSessionTest, ServiceThatFails_EndsThoseStartedBeforeIt) {
   Participant::notes = &notes;
   VelPlatformSession session;
   EXPECT_EQ(session.Start(), E_INVALIDARG);
-  EXPECT_EQ(notes, (Texts{"start first", "start second", "end first"}));
+  EXPECT_EQ(NotesOfTheTwo(notes), (Texts{"start first", "start second", "end first"}));
   EXPECT_FALSE(session.IsRunning());
   Participant::notes = nullptr;
   Second().result = S_OK;
+}
+
+TEST_F(VelPlatformSessionTest, ServiceThatThrows_HasFailedAndStopsNoOther) {
+  First();
+  Second().inStart = [] { throw std::runtime_error("start"); };
+  First().inEnd = [] { throw std::runtime_error("end"); };
+  const RecordingFailureObserver failures;
+  VelPlatformSession session;
+  EXPECT_EQ(session.Start(), E_FAIL);
+  EXPECT_FALSE(session.IsRunning());
+  EXPECT_EQ(failures.Messages(), (Texts{"A service threw an exception when the session started",
+                                        "A service threw an exception when the session ended"}));
+  EXPECT_EQ(failures.Failures()[0].detail, "OnSessionStart: start");
+  Second().inStart = nullptr;
+  First().inEnd = nullptr;
+}
+
+TEST_F(VelPlatformSessionTest, ServiceAddedByAnothersStart_TakesPartFromTheNextSessionOn) {
+  First().inStart = [] {
+    for (int i = 0; i < 100; ++i) Add();
+  };
+  Texts notes;
+  Participant::notes = &notes;
+  VelPlatformSession session;
+  ASSERT_EQ(session.Start(), S_OK);
+  const auto before = notes.size();
+  EXPECT_EQ(session.End(), S_OK);
+  notes.clear();
+  First().inStart = nullptr;
+  ASSERT_EQ(session.Start(), S_OK);
+  EXPECT_EQ(notes.size(), before + 100U);
+  Participant::notes = nullptr;
+  EXPECT_EQ(session.End(), S_OK);
+}
+
+VelPlatformSession* endedByHook = nullptr;
+
+TEST_F(VelPlatformSessionTest, HookThatEndsTheSession_ChangesNothing) {
+  VelPlatformSession session;
+  endedByHook = &session;
+  ASSERT_EQ(session.Start(), S_OK);
+  static HRESULT inner;
+  inner = S_OK;
+  VelCallOnExit(
+      [](int) {
+        inner = endedByHook->End();
+        return 0;
+      },
+      1);
+  EXPECT_EQ(session.End(), S_OK);
+  EXPECT_EQ(inner, S_FALSE);
+  EXPECT_FALSE(session.IsRunning());
 }
 
 using VelPlatformSessionDeathTest = VelPlatformSessionTest;

@@ -25,7 +25,7 @@ using VelTestThrower = void (*)();
 
 class VEL_TEST_SHARED_API VelITestIdentity : public VelBaseUnknown {
  public:
-  static const VelInterfaceId& InterfaceId() noexcept { return IID_VelITestIdentity; }
+  VEL_INTERFACE(VelITestIdentity);
 
   /// @return the addresses as the plug-in sees them, all null when the component is closed
   virtual VelTestAddresses Addresses() = 0;

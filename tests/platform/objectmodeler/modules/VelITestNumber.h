@@ -12,7 +12,7 @@ VEL_TEST_SHARED_API extern const VelInterfaceId IID_VelITestNumber;
 
 class VEL_TEST_SHARED_API VelITestNumber : public VelBaseUnknown {
  public:
-  static const VelInterfaceId& InterfaceId() noexcept { return IID_VelITestNumber; }
+  VEL_INTERFACE(VelITestNumber);
 
   /// @return S_OK; E_FAIL when the component is closed
   virtual HRESULT SetNumber(int iNumber) = 0;

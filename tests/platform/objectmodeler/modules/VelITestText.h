@@ -13,7 +13,7 @@ VEL_TEST_SHARED_API extern const VelInterfaceId IID_VelITestText;
 
 class VEL_TEST_SHARED_API VelITestText : public VelBaseUnknown {
  public:
-  static const VelInterfaceId& InterfaceId() noexcept { return IID_VelITestText; }
+  VEL_INTERFACE(VelITestText);
 
   /// @return S_OK; E_FAIL when the component is closed, with oText untouched
   virtual HRESULT GetText(VelString& oText) = 0;
