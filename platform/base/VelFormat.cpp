@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr int kDefaultDecimals = 6;
-constexpr int kMostDecimals = 17;
+constexpr int defaultDecimals = 6;
+constexpr int mostDecimals = 17;
 
 /// What a percent sign introduces.
 struct Placeholder {
@@ -33,7 +33,7 @@ std::optional<std::size_t> ReadPrecision(std::string_view iText, int& oDecimals)
   int decimals = 0;
   while (end < iText.size() && IsDigit(iText[end])) {
     decimals = decimals * 10 + (iText[end] - '0');
-    if (decimals > kMostDecimals) return std::nullopt;
+    if (decimals > mostDecimals) return std::nullopt;
     ++end;
   }
   if (end == 1) return std::nullopt;
@@ -46,7 +46,7 @@ std::optional<std::size_t> ReadPrecision(std::string_view iText, int& oDecimals)
 std::optional<Placeholder> ReadPlaceholder(std::string_view iText) {
   if (iText.size() < 2) return std::nullopt;
   if (std::string_view("sdux%").find(iText[1]) != std::string_view::npos) return Placeholder{iText[1], 0, 2};
-  int decimals = kDefaultDecimals;
+  int decimals = defaultDecimals;
   const std::optional<std::size_t> precision = ReadPrecision(iText.substr(1), decimals);
   if (!precision) return std::nullopt;
   std::size_t end = 1 + *precision;
@@ -120,7 +120,7 @@ void AppendArgument(std::string& ioText, const VelFormatArgument& iArgument, con
       AppendIntegral(ioText, iArgument, iPlaceholder);
       return;
     case Kind::Real:
-      AppendReal(ioText, iArgument.Real(), iPlaceholder.conversion == 'f' ? iPlaceholder.decimals : kDefaultDecimals);
+      AppendReal(ioText, iArgument.Real(), iPlaceholder.conversion == 'f' ? iPlaceholder.decimals : defaultDecimals);
       return;
     case Kind::Text:
       if (iPlaceholder.conversion == 'x') {

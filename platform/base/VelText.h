@@ -24,7 +24,7 @@ template <class Text>
 class VelText {
  public:
   /// Every byte up to the end of the text, for the operations that take a count.
-  static constexpr std::size_t kRest = std::numeric_limits<std::size_t>::max();
+  static constexpr std::size_t rest = std::numeric_limits<std::size_t>::max();
 
   /// @return the bytes followed by a NUL, never null, until the text changes. A reader of C strings stops at an
   /// embedded NUL; View() does not.
@@ -51,7 +51,7 @@ class VelText {
 
   /// @param[in] iPosition the first byte, counted from 0; past the end the result is empty
   /// @param[in] iCount cut down to what there is
-  Text SubString(std::size_t iPosition, std::size_t iCount = kRest) const {
+  Text SubString(std::size_t iPosition, std::size_t iCount = rest) const {
     return Text(View().substr(std::min(iPosition, Length()), iCount));
   }
 

@@ -8,7 +8,7 @@
 VelToken::VelToken(const VelString& iText, const VelString& iSeparators) : text_(iText) {
   for (const char byte : iSeparators.View()) {
     const auto code = static_cast<unsigned char>(byte);
-    if (code < kAsciiSize) separators_.set(code);
+    if (code < asciiSize) separators_.set(code);
   }
 }
 
@@ -22,5 +22,5 @@ VelString VelToken::Next() {
 
 bool VelToken::IsSeparator(char iByte) const noexcept {
   const auto code = static_cast<unsigned char>(iByte);
-  return code < kAsciiSize && separators_[code];
+  return code < asciiSize && separators_[code];
 }

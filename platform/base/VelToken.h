@@ -26,12 +26,12 @@ class VelToken {
   VEL_PLATFORM_API VelString Next();
 
  private:
-  static constexpr std::size_t kAsciiSize = 128;
+  static constexpr std::size_t asciiSize = 128;
 
   bool IsSeparator(char iByte) const noexcept;
 
   VelString text_;
-  std::bitset<kAsciiSize> separators_;
+  std::bitset<asciiSize> separators_;
   std::size_t position_ = 0;
 };
 

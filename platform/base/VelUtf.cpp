@@ -16,14 +16,14 @@ struct LeadByte {
   unsigned char payload;  ///< The bits of the lead byte that belong to the code point.
 };
 
-constexpr LeadByte kLeadBytes[] = {
+constexpr LeadByte leadBytes[] = {
     {0xC2, 0xDF, 2, 0x80, 0xBF, 0x1F}, {0xE0, 0xE0, 3, 0xA0, 0xBF, 0x0F}, {0xE1, 0xEC, 3, 0x80, 0xBF, 0x0F},
     {0xED, 0xED, 3, 0x80, 0x9F, 0x0F}, {0xEE, 0xEF, 3, 0x80, 0xBF, 0x0F}, {0xF0, 0xF0, 4, 0x90, 0xBF, 0x07},
     {0xF1, 0xF3, 4, 0x80, 0xBF, 0x07}, {0xF4, 0xF4, 4, 0x80, 0x8F, 0x07},
 };
 
 const LeadByte* FindLeadByte(unsigned char iByte) noexcept {
-  for (const LeadByte& row : kLeadBytes) {
+  for (const LeadByte& row : leadBytes) {
     if (row.first <= iByte && iByte <= row.last) return &row;
   }
   return nullptr;
@@ -43,16 +43,16 @@ VelUtf::CodePoint VelUtf::NextOfUtf8(std::string_view iText, std::size_t& ioPosi
   const auto lead = static_cast<unsigned char>(iText[ioPosition++]);
   if (lead < 0x80) return {lead, true};
   const LeadByte* row = FindLeadByte(lead);
-  if (row == nullptr) return {kReplacement, false};
+  if (row == nullptr) return {replacement, false};
 
   char32_t codePoint = lead & row->payload;
   unsigned char lowest = row->lowestNext;
   unsigned char highest = row->highestNext;
   for (unsigned read = 1; read < row->length; ++read) {
-    if (ioPosition == iText.size()) return {kReplacement, false};
+    if (ioPosition == iText.size()) return {replacement, false};
     const auto next = static_cast<unsigned char>(iText[ioPosition]);
     // The byte that does not fit is left to be read as the start of what comes next.
-    if (next < lowest || highest < next) return {kReplacement, false};
+    if (next < lowest || highest < next) return {replacement, false};
     codePoint = (codePoint << 6U) | (next & 0x3FU);
     lowest = 0x80;
     highest = 0xBF;
@@ -63,9 +63,9 @@ VelUtf::CodePoint VelUtf::NextOfUtf8(std::string_view iText, std::size_t& ioPosi
 
 char32_t VelUtf::NextOfUtf16(std::u16string_view iText, std::size_t& ioPosition) noexcept {
   const char16_t unit = iText[ioPosition++];
-  if (IsLowSurrogate(unit)) return kReplacement;
+  if (IsLowSurrogate(unit)) return replacement;
   if (!IsHighSurrogate(unit)) return unit;
-  if (ioPosition == iText.size() || !IsLowSurrogate(iText[ioPosition])) return kReplacement;
+  if (ioPosition == iText.size() || !IsLowSurrogate(iText[ioPosition])) return replacement;
   const char16_t low = iText[ioPosition++];
   return 0x10000U + ((static_cast<char32_t>(unit) - 0xD800U) << 10U) + (static_cast<char32_t>(low) - 0xDC00U);
 }

@@ -12,10 +12,10 @@
 class VelUtf {
  public:
   /// What stands for everything that is not text.
-  static constexpr char32_t kReplacement = 0xFFFD;
+  static constexpr char32_t replacement = 0xFFFD;
 
   struct CodePoint {
-    char32_t codePoint;  ///< kReplacement where the bytes are ill-formed.
+    char32_t codePoint;  ///< The replacement where the bytes are ill-formed.
     bool wellFormed;     ///< Tells a replacement from a U+FFFD that stands in the text.
   };
 
@@ -23,7 +23,7 @@ class VelUtf {
   /// @param[in,out] ioPosition inside the text; moved behind what was read
   static CodePoint NextOfUtf8(std::string_view iText, std::size_t& ioPosition) noexcept;
 
-  /// Reads one code point; an unpaired surrogate reads as kReplacement.
+  /// Reads one code point; an unpaired surrogate reads as the replacement.
   /// @param[in,out] ioPosition inside the text; moved behind what was read
   static char32_t NextOfUtf16(std::u16string_view iText, std::size_t& ioPosition) noexcept;
 

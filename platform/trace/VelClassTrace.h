@@ -36,13 +36,13 @@ class VEL_PLATFORM_API VelClassTrace {
 
  private:
   /// What level_ points to before the channel is known: high enough to have every level ask.
-  static constexpr std::uint8_t kUnresolved = 9;
+  static constexpr std::uint8_t unresolvedLevel = 9;
 
   bool IsOnWhenResolved(int iLevel) const noexcept;
   void Emit(int iLevel, const char* iFormat, std::initializer_list<VelFormatArgument> iArguments) const noexcept;
 
   const char* name_;
-  mutable const std::uint8_t* level_ = &kUnresolved;
+  mutable const std::uint8_t* level_ = &unresolvedLevel;
   mutable const QrnSysTrace* channel_ = nullptr;
 };
 

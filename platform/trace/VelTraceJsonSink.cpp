@@ -12,7 +12,7 @@
 namespace {
 
 void AppendEscaped(std::string& ioJson, char iCharacter) {
-  constexpr std::string_view kHexDigits = "0123456789abcdef";
+  constexpr std::string_view hexDigits = "0123456789abcdef";
   switch (iCharacter) {
     case '"':
       ioJson += "\\\"";
@@ -38,8 +38,8 @@ void AppendEscaped(std::string& ioJson, char iCharacter) {
     return;
   }
   ioJson += "\\u00";
-  ioJson += kHexDigits[code >> 4U];
-  ioJson += kHexDigits[code & 0xFU];
+  ioJson += hexDigits[code >> 4U];
+  ioJson += hexDigits[code & 0xFU];
 }
 
 /// @return the text between quotation marks, as well-formed UTF-8.

@@ -111,18 +111,18 @@ bool VelTraceRegistry::Deliver(VelTraceRecord& ioRecord, bool iToSinks) {
 }
 
 void VelTraceRegistry::ApplySwitch(QrnSysTrace& ioChannel) const noexcept {
-  constexpr unsigned kError = QrnSysTrace::Bit(VelTraceKind::Error);
-  constexpr unsigned kWarning = QrnSysTrace::Bit(VelTraceKind::Warning);
-  const int level = available_ ? switches_.LevelOf(ioChannel.name_) : VelTraceLevel::kOff;
+  constexpr unsigned errorBit = QrnSysTrace::Bit(VelTraceKind::Error);
+  constexpr unsigned warningBit = QrnSysTrace::Bit(VelTraceKind::Warning);
+  const int level = available_ ? switches_.LevelOf(ioChannel.name_) : VelTraceLevel::off;
   unsigned bits = 0;
-  if (level >= VelTraceLevel::kError) bits |= kError;
-  if (level >= VelTraceLevel::kWarning) bits |= kWarning;
-  if (level >= VelTraceLevel::kInfo) bits |= QrnSysTrace::Bit(VelTraceKind::Information);
-  if (level > VelTraceLevel::kInfo) bits |= QrnSysTrace::Bit(VelTraceKind::ClassTrace);
+  if (level >= VelTraceLevel::error) bits |= errorBit;
+  if (level >= VelTraceLevel::warning) bits |= warningBit;
+  if (level >= VelTraceLevel::info) bits |= QrnSysTrace::Bit(VelTraceKind::Information);
+  if (level > VelTraceLevel::info) bits |= QrnSysTrace::Bit(VelTraceKind::ClassTrace);
   ioChannel.switched_ = static_cast<std::uint8_t>(bits);
-  if (available_ && !scopes_.empty()) bits |= kError | kWarning;
+  if (available_ && !scopes_.empty()) bits |= errorBit | warningBit;
   ioChannel.accepted_ = static_cast<std::uint8_t>(bits);
-  ioChannel.classLevel_ = static_cast<std::uint8_t>(level > VelTraceLevel::kInfo ? level - VelTraceLevel::kInfo : 0);
+  ioChannel.classLevel_ = static_cast<std::uint8_t>(level > VelTraceLevel::info ? level - VelTraceLevel::info : 0);
 }
 
 void VelTraceRegistry::ApplyEverywhere() noexcept {

@@ -15,26 +15,26 @@ struct NamedLevel {
   int level;
 };
 
-constexpr NamedLevel kNamedLevels[] = {
-    {"off", VelTraceLevel::kOff},
-    {"error", VelTraceLevel::kError},
-    {"warning", VelTraceLevel::kWarning},
-    {"info", VelTraceLevel::kInfo},
+constexpr NamedLevel namedLevels[] = {
+    {"off", VelTraceLevel::off},
+    {"error", VelTraceLevel::error},
+    {"warning", VelTraceLevel::warning},
+    {"info", VelTraceLevel::info},
 };
 
 std::string_view Trimmed(std::string_view iText) {
-  constexpr std::string_view kBlanks = " \t\r\n";
-  const std::size_t first = iText.find_first_not_of(kBlanks);
+  constexpr std::string_view blanks = " \t\r\n";
+  const std::size_t first = iText.find_first_not_of(blanks);
   if (first == std::string_view::npos) return {};
-  return iText.substr(first, iText.find_last_not_of(kBlanks) - first + 1);
+  return iText.substr(first, iText.find_last_not_of(blanks) - first + 1);
 }
 
 std::optional<int> ReadLevel(std::string_view iWord) {
-  for (const NamedLevel& named : kNamedLevels) {
+  for (const NamedLevel& named : namedLevels) {
     if (named.word == iWord) return named.level;
   }
   if (iWord.size() != 1 || iWord[0] < '1' || iWord[0] > '9') return std::nullopt;
-  return VelTraceLevel::kInfo + (iWord[0] - '0');
+  return VelTraceLevel::info + (iWord[0] - '0');
 }
 
 /// A star is allowed at the end only.
@@ -57,7 +57,7 @@ VelTraceSwitches VelTraceSwitches::Parse(std::string_view iText, std::vector<std
       continue;
     }
     const std::optional<int> level =
-        equals == std::string_view::npos ? VelTraceLevel::kInfo : ReadLevel(Trimmed(item.substr(equals + 1)));
+        equals == std::string_view::npos ? VelTraceLevel::info : ReadLevel(Trimmed(item.substr(equals + 1)));
     if (!level) {
       oComplaints.push_back(VelFormat::ToText(
           "Trace switch \"%s\" left out: expected off, error, warning, info or a digit from 1 to 9 after the =", item));
@@ -73,5 +73,5 @@ int VelTraceSwitches::LevelOf(std::string_view iChannel) const noexcept {
   for (auto item = items_.rbegin(); item != items_.rend(); ++item) {
     if (item->isPrefix ? iChannel.starts_with(item->name) : iChannel == item->name) return item->level;
   }
-  return VelTraceLevel::kWarning;
+  return VelTraceLevel::warning;
 }

@@ -8,12 +8,12 @@
 #include <string_view>
 #include <vector>
 
-/// Which messages of a channel are on; each level includes those before it. kInfo + n is the class level n.
+/// Which messages of a channel are on; each level includes those before it. info + n is the class level n.
 namespace VelTraceLevel {
-inline constexpr int kOff = 0;
-inline constexpr int kError = 1;
-inline constexpr int kWarning = 2;
-inline constexpr int kInfo = 3;
+inline constexpr int off = 0;
+inline constexpr int error = 1;
+inline constexpr int warning = 2;
+inline constexpr int info = 3;
 }  // namespace VelTraceLevel
 
 /// A list of patterns with their levels. VelTraceService::SetSwitches documents the text form.
@@ -23,7 +23,7 @@ class VelTraceSwitches {
   /// @param[out] oComplaints one message per bad item is appended; it names the item and what was expected
   [[nodiscard]] static VelTraceSwitches Parse(std::string_view iText, std::vector<std::string>& oComplaints);
 
-  /// @return the level of a channel, from kOff to kInfo + 9.
+  /// @return the level of a channel, from off to info + 9.
   [[nodiscard]] int LevelOf(std::string_view iChannel) const noexcept;
 
  private:

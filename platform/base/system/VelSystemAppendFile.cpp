@@ -16,8 +16,9 @@
 
 namespace {
 
-constexpr std::size_t kBufferSize = 64 * 1024;
-constexpr mode_t kMode = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;  // Less what the umask takes away.
+constexpr std::size_t bufferSize = 64 * 1024;
+/// Less what the umask takes away.
+constexpr mode_t fileMode = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
 
 /// Says whether text can be added to an open file, and makes writing to it wait as usual.
 bool Prepare(int iDescriptor, std::string& oCause) {
@@ -47,8 +48,8 @@ HRESULT VelSystemAppendFile::Open(const std::string& iPath, std::string& oCause)
     return E_INVALIDARG;
   }
   // Without O_NONBLOCK the call would wait for somebody to open the other end of a fifo.
-  constexpr int kFlags = O_WRONLY | O_CREAT | O_APPEND | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-  VelSystemDescriptor file(::open(iPath.c_str(), kFlags, kMode));
+  constexpr int openFlags = O_WRONLY | O_CREAT | O_APPEND | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+  VelSystemDescriptor file(::open(iPath.c_str(), openFlags, fileMode));
   if (!file.IsOpen()) {
     oCause = VelSystemError::CauseOf(errno);
     return E_FAIL;
@@ -61,7 +62,7 @@ HRESULT VelSystemAppendFile::Open(const std::string& iPath, std::string& oCause)
 HRESULT VelSystemAppendFile::Write(std::string_view iText) {
   if (!IsOpen()) return E_UNEXPECTED;
   buffer_.append(iText);
-  return buffer_.size() < kBufferSize ? S_OK : Flush();
+  return buffer_.size() < bufferSize ? S_OK : Flush();
 }
 
 HRESULT VelSystemAppendFile::Flush() {

@@ -7,14 +7,14 @@
 
 namespace {
 
-constexpr std::int64_t kTicksPerSecond = 10'000'000;
-constexpr std::int64_t kNanosecondsPerTick = 100;
+constexpr std::int64_t ticksPerSecond = 10'000'000;
+constexpr std::int64_t nanosecondsPerTick = 100;
 
 }  // namespace
 
 std::int64_t VelSystemClock::Now() noexcept {
   timespec now{};
   ::clock_gettime(CLOCK_MONOTONIC, &now);
-  return static_cast<std::int64_t>(now.tv_sec) * kTicksPerSecond +
-         static_cast<std::int64_t>(now.tv_nsec) / kNanosecondsPerTick;
+  return static_cast<std::int64_t>(now.tv_sec) * ticksPerSecond +
+         static_cast<std::int64_t>(now.tv_nsec) / nanosecondsPerTick;
 }

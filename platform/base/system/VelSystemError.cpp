@@ -12,7 +12,7 @@ struct Cause {
   const char* text;
 };
 
-constexpr Cause kCauses[] = {
+constexpr Cause causes[] = {
     {ENOENT, "no such file"},
     {ENOTDIR, "a part of the path is not a folder"},
     {EACCES, "permission denied"},
@@ -33,7 +33,7 @@ constexpr Cause kCauses[] = {
 }  // namespace
 
 std::string VelSystemError::CauseOf(int iErrno) {
-  for (const Cause& cause : kCauses) {
+  for (const Cause& cause : causes) {
     if (cause.error == iErrno) return cause.text;
   }
   return "system error " + std::to_string(iErrno);

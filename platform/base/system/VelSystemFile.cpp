@@ -64,12 +64,12 @@ HRESULT VelSystemFile::ReadWholeFile(const std::string& iPath, std::size_t iByte
   VEL_RETURN_IF_FAILED(CheckReadable(file.Get(), iByteLimit, size, oCause));
 
   // The size is a hint only: a file may grow meanwhile, and those that the kernel makes up say 0.
-  constexpr std::size_t kChunk = 64 * 1024;
+  constexpr std::size_t chunkSize = 64 * 1024;
   std::string bytes;
   bytes.reserve(size + 1);
   std::size_t length = 0;
   while (true) {
-    if (length == bytes.size()) bytes.resize(std::max(bytes.capacity(), length + kChunk));
+    if (length == bytes.size()) bytes.resize(std::max(bytes.capacity(), length + chunkSize));
     const ssize_t count = ::read(file.Get(), bytes.data() + length, bytes.size() - length);
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) return FailWith(errno, oCause);

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr VelSourcePosition kHere{"src/model/Thing", 12};
+constexpr VelSourcePosition here{"src/model/Thing", 12};
 
 /// Does something of the test's choice when it hears a report.
 class ReactingObserver final : public VelFailureObserver {
@@ -50,18 +50,18 @@ struct LineCase {
   const char* expected;
 };
 
-const LineCase kLineCases[] = {
+const LineCase lineCases[] = {
     {"everything",
-     {VelFailureKind::Check, kHere, "index < count", "Out of range", "7"},
+     {VelFailureKind::Check, here, "index < count", "Out of range", "7"},
      "check failed: Out of range { expression = index < count, detail = 7 } [src/model/Thing:12]\n"},
     {"no expression",
-     {VelFailureKind::Check, kHere, "", "Out of range", "7"},
+     {VelFailureKind::Check, here, "", "Out of range", "7"},
      "check failed: Out of range { detail = 7 } [src/model/Thing:12]\n"},
     {"no detail",
-     {VelFailureKind::Check, kHere, "index < count", "Out of range", ""},
+     {VelFailureKind::Check, here, "index < count", "Out of range", ""},
      "check failed: Out of range { expression = index < count } [src/model/Thing:12]\n"},
     {"no message",
-     {VelFailureKind::Check, kHere, "index < count", "", "7"},
+     {VelFailureKind::Check, here, "index < count", "", "7"},
      "check failed: { expression = index < count, detail = 7 } [src/model/Thing:12]\n"},
     {"no line", {VelFailureKind::Check, {"Thing", 0}, "", "Odd", ""}, "check failed: Odd [Thing]\n"},
     {"no source", {VelFailureKind::Check, {"", 0}, "", "Odd", ""}, "check failed: Odd\n"},
@@ -70,13 +70,13 @@ const LineCase kLineCases[] = {
      {VelFailureKind::Check, {"", 0}, "", "100%s", "%d"},
      "check failed: 100%s { detail = %d }\n"},
     {"assertion",
-     {VelFailureKind::Assertion, kHere, "a == b", "AssertionFailed:a == b", ""},
+     {VelFailureKind::Assertion, here, "a == b", "AssertionFailed:a == b", ""},
      "assertion failed: AssertionFailed:a == b [src/model/Thing:12]\n"},
-    {"fatal log", {VelFailureKind::FatalLog, kHere, "", "Lost", ""}, "fatal error: Lost [src/model/Thing:12]\n"},
+    {"fatal log", {VelFailureKind::FatalLog, here, "", "Lost", ""}, "fatal error: Lost [src/model/Thing:12]\n"},
 };
 
 TEST(VelCheck, Publish_WhileNobodyObserves_PrintsOneLine) {
-  for (const LineCase& testCase : kLineCases) {
+  for (const LineCase& testCase : lineCases) {
     SCOPED_TRACE(testCase.name);
     EXPECT_EQ(PrintedBy([&] { VelCheck::Publish(testCase.report); }), testCase.expected);
   }
@@ -84,7 +84,7 @@ TEST(VelCheck, Publish_WhileNobodyObserves_PrintsOneLine) {
 
 TEST(VelCheck, Failed_WhileObserved_HandsEverythingOverAndPrintsNothing) {
   const RecordingFailureObserver recorder;
-  EXPECT_EQ(PrintedBy([] { VelCheck::Failed(kHere, "index < count", "Out of range", "7"); }), "");
+  EXPECT_EQ(PrintedBy([] { VelCheck::Failed(here, "index < count", "Out of range", "7"); }), "");
   ASSERT_EQ(recorder.Failures().size(), 1U);
   const RecordedFailure& failure = recorder.Failures().front();
   EXPECT_EQ(failure.kind, VelFailureKind::Check);
@@ -99,7 +99,7 @@ TEST(VelCheck, Failed_WithSeveralObservers_ReachesEachOnceEvenIfAddedTwice) {
   RecordingFailureObserver first;
   const RecordingFailureObserver second;
   VelCheck::AddObserver(first);
-  VelCheck::Failed(kHere, "", "Odd");
+  VelCheck::Failed(here, "", "Odd");
   EXPECT_EQ(first.Messages(), std::vector<std::string>{"Odd"});
   EXPECT_EQ(second.Messages(), std::vector<std::string>{"Odd"});
 }
@@ -112,22 +112,22 @@ TEST(VelCheck, RemoveObserver_OfTheLastOne_HasReportsPrintedAgain) {
 TEST(VelCheck, Observer_ThatThrows_KeepsTheReportFromNobody) {
   const ReactingObserver thrower([] { throw std::runtime_error("observer"); });
   const RecordingFailureObserver recorder;
-  VelCheck::Failed(kHere, "", "Odd");
+  VelCheck::Failed(here, "", "Odd");
   EXPECT_EQ(thrower.calls, 1);
   EXPECT_EQ(recorder.Messages(), std::vector<std::string>{"Odd"});
 }
 
 TEST(VelCheck, Observer_ThatRaisesACheckItself_IsNotCalledForIt) {
-  const ReactingObserver raiser([] { VelCheck::Failed(kHere, "", "Inner"); });
+  const ReactingObserver raiser([] { VelCheck::Failed(here, "", "Inner"); });
   const RecordingFailureObserver recorder;
-  VelCheck::Failed(kHere, "", "Outer");
+  VelCheck::Failed(here, "", "Outer");
   EXPECT_EQ(raiser.calls, 1);
   EXPECT_EQ(recorder.Messages(), (std::vector<std::string>{"Inner", "Outer"}));
 }
 
 TEST(VelCheck, Check_RaisedByTheOnlyObserver_IsPrinted) {
   const ReactingObserver raiser([] { VelCheck::Failed({"", 0}, "", "Inner"); });
-  EXPECT_EQ(PrintedBy([] { VelCheck::Failed(kHere, "", "Outer"); }), "check failed: Inner\n");
+  EXPECT_EQ(PrintedBy([] { VelCheck::Failed(here, "", "Outer"); }), "check failed: Inner\n");
 }
 
 TEST(VelCheck, Observer_RemovedWhileAReportIsHandedRound_IsNotCalled) {
@@ -135,7 +135,7 @@ TEST(VelCheck, Observer_RemovedWhileAReportIsHandedRound_IsNotCalled) {
   VelCheck::RemoveObserver(second);
   const ReactingObserver remover([&] { VelCheck::RemoveObserver(second); });
   VelCheck::AddObserver(second);
-  VelCheck::Failed(kHere, "", "Odd");
+  VelCheck::Failed(here, "", "Odd");
   EXPECT_TRUE(second.Failures().empty());
 }
 

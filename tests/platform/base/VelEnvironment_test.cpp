@@ -8,36 +8,36 @@
 
 namespace {
 
-constexpr const char* kName = "VEL_ENVIRONMENT_TEST";
+constexpr const char* variable = "VEL_ENVIRONMENT_TEST";
 
 class VelEnvironmentTest : public ::testing::Test {
  protected:
-  VelEnvironmentTest() { ::unsetenv(kName); }
-  ~VelEnvironmentTest() override { ::unsetenv(kName); }
+  VelEnvironmentTest() { ::unsetenv(variable); }
+  ~VelEnvironmentTest() override { ::unsetenv(variable); }
 };
 
 TEST_F(VelEnvironmentTest, WithAVariableThatIsNotSet_LeavesTheValue) {
   VelString value("before");
-  EXPECT_FALSE(VelEnvironment::Get(kName, value));
+  EXPECT_FALSE(VelEnvironment::Get(variable, value));
   EXPECT_EQ(value, "before");
-  EXPECT_FALSE(VelEnvironment::IsSet(kName));
+  EXPECT_FALSE(VelEnvironment::IsSet(variable));
 }
 
 TEST_F(VelEnvironmentTest, WithAVariableSetToNothing_AnswersAnEmptyValue) {
-  ASSERT_EQ(::setenv(kName, "", 1), 0);
+  ASSERT_EQ(::setenv(variable, "", 1), 0);
   VelString value("before");
-  EXPECT_TRUE(VelEnvironment::Get(kName, value));
+  EXPECT_TRUE(VelEnvironment::Get(variable, value));
   EXPECT_TRUE(value.IsEmpty());
-  EXPECT_TRUE(VelEnvironment::IsSet(kName));
+  EXPECT_TRUE(VelEnvironment::IsSet(variable));
 }
 
 TEST_F(VelEnvironmentTest, WithAVariableThatChanges_AnswersItsPresentBytes) {
   VelString value;
-  ASSERT_EQ(::setenv(kName, "first", 1), 0);
-  EXPECT_TRUE(VelEnvironment::Get(kName, value));
+  ASSERT_EQ(::setenv(variable, "first", 1), 0);
+  EXPECT_TRUE(VelEnvironment::Get(variable, value));
   EXPECT_EQ(value, "first");
-  ASSERT_EQ(::setenv(kName, "\xFF second", 1), 0);
-  EXPECT_TRUE(VelEnvironment::Get(kName, value));
+  ASSERT_EQ(::setenv(variable, "\xFF second", 1), 0);
+  EXPECT_TRUE(VelEnvironment::Get(variable, value));
   EXPECT_EQ(value, "\xFF second");
 }
 

@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr VelSourcePosition kHere{"src/model/Thing", 209};
+constexpr VelSourcePosition here{"src/model/Thing", 209};
 
 /// Records fatal errors, and does something of the test's choice about them.
 class RecordingHandler final : public VelFatalErrorHandler {
@@ -44,7 +44,7 @@ class RecordingHandler final : public VelFatalErrorHandler {
 
 TEST(VelFatalErrorService, AssertionFailed_WithAHandlerThatReturns_ReturnsWithTheReportHandedOver) {
   const RecordingHandler handler;
-  VelFatalErrorService::AssertionFailed(kHere, "count > 0");
+  VelFatalErrorService::AssertionFailed(here, "count > 0");
   ASSERT_EQ(handler.reports.size(), 1U);
   const RecordedFailure& report = handler.reports.front();
   EXPECT_EQ(report.kind, VelFailureKind::Assertion);
@@ -56,7 +56,7 @@ TEST(VelFatalErrorService, AssertionFailed_WithAHandlerThatReturns_ReturnsWithTh
 
 TEST(VelFatalErrorService, FatalLog_WithAHandlerThatReturns_ReturnsWithTheReportHandedOver) {
   const RecordingHandler handler;
-  VelFatalErrorService::FatalLog(kHere, "The catalog is damaged");
+  VelFatalErrorService::FatalLog(here, "The catalog is damaged");
   ASSERT_EQ(handler.reports.size(), 1U);
   EXPECT_EQ(handler.reports.front().kind, VelFailureKind::FatalLog);
   EXPECT_EQ(handler.reports.front().message, "The catalog is damaged");
@@ -66,14 +66,14 @@ TEST(VelFatalErrorService, FatalLog_WithAHandlerThatReturns_ReturnsWithTheReport
 TEST(VelFatalErrorService, Handler_InForce_KeepsTheReportFromTheObservers) {
   const RecordingHandler handler;
   const RecordingFailureObserver observer;
-  VelFatalErrorService::FatalLog(kHere, "Lost");
+  VelFatalErrorService::FatalLog(here, "Lost");
   EXPECT_TRUE(observer.Failures().empty());
 }
 
 TEST(VelFatalErrorService, Handler_ThatThrows_LetsTheCallReturn) {
   const RecordingHandler handler([] { throw std::runtime_error("handler"); });
-  VelFatalErrorService::FatalLog(kHere, "First");
-  VelFatalErrorService::FatalLog(kHere, "Second");
+  VelFatalErrorService::FatalLog(here, "First");
+  VelFatalErrorService::FatalLog(here, "Second");
   EXPECT_EQ(handler.reports.size(), 2U);
 }
 
@@ -82,13 +82,13 @@ TEST(VelFatalErrorService, SetHandler_HandsBackTheOneThatWasInForce) {
   RecordingHandler outer;
   {
     const RecordingHandler inner;
-    VelFatalErrorService::FatalLog(kHere, "Inner");
+    VelFatalErrorService::FatalLog(here, "Inner");
   }
   EXPECT_EQ(VelFatalErrorService::SetHandler(nullptr), &outer);
 }
 
 TEST(VelFatalErrorServiceDeathTest, AssertionFailed_WithoutHandler_PrintsAndAborts) {
-  EXPECT_DEATH(VelFatalErrorService::AssertionFailed(kHere, "count > 0"),
+  EXPECT_DEATH(VelFatalErrorService::AssertionFailed(here, "count > 0"),
                "assertion failed: AssertionFailed:count > 0 \\[src/model/Thing:209\\]");
 }
 
@@ -103,7 +103,7 @@ TEST(VelFatalErrorServiceDeathTest, FatalLog_WithoutHandler_TellsTheObserversAnd
       {
         PrintingObserver observer;
         VelCheck::AddObserver(observer);
-        VelFatalErrorService::FatalLog(kHere, "Lost");
+        VelFatalErrorService::FatalLog(here, "Lost");
       },
       ::testing::KilledBySignal(SIGABRT), "observed Lost");
 }
@@ -111,8 +111,8 @@ TEST(VelFatalErrorServiceDeathTest, FatalLog_WithoutHandler_TellsTheObserversAnd
 TEST(VelFatalErrorServiceDeathTest, FatalLog_FromInsideOfTheHandler_AbortsInsteadOfAskingItAgain) {
   EXPECT_DEATH(
       {
-        const RecordingHandler handler([] { VelFatalErrorService::FatalLog(kHere, "Inner"); });
-        VelFatalErrorService::FatalLog(kHere, "Outer");
+        const RecordingHandler handler([] { VelFatalErrorService::FatalLog(here, "Inner"); });
+        VelFatalErrorService::FatalLog(here, "Outer");
       },
       "fatal error: Inner");
 }
@@ -123,7 +123,7 @@ TEST(VelFatalErrorServiceDeathTest, FatalLog_WithoutHandler_WritesOutWhatTheProg
         // A full buffer, as of a stream that goes to a file.
         std::setvbuf(stderr, nullptr, _IOFBF, 4096);
         std::fputs("printed before", stderr);
-        VelFatalErrorService::FatalLog(kHere, "Lost");
+        VelFatalErrorService::FatalLog(here, "Lost");
       },
       "printed before");
 }

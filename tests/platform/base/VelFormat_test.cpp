@@ -46,7 +46,7 @@ struct Case {
   const char* wholeF;  ///< %.0f and %.0lf.
 };
 
-const Case kCases[] = {
+const Case formatCases[] = {
     {"true", true, "true", "1", "1", "1.000000", "1.00", "1"},
     {"false", false, "false", "0", "0", "0.000000", "0.00", "0"},
     {"int8", std::int8_t{-1}, "-1", "-1", "ff", "-1.000000", "-1.00", "-1"},
@@ -83,7 +83,7 @@ const Case kCases[] = {
 };
 
 TEST(VelFormat, EveryPlaceholder_WithEveryKindOfArgument_PrintsItsTableEntry) {
-  for (const Case& testCase : kCases) {
+  for (const Case& testCase : formatCases) {
     SCOPED_TRACE(testCase.name);
     EXPECT_EQ(VelFormat::ToText("%s", testCase.argument), testCase.s);
     EXPECT_EQ(VelFormat::ToText("%d", testCase.argument), testCase.d);
@@ -134,7 +134,7 @@ TEST(VelFormat, EveryPlaceholder_WithAnyKindOfText_PrintsTheTextAndUnderXItsAddr
 
 TEST(VelFormat, Pointer_OfAnyObjectType_PrintsItsAddress) {
   int number = 0;
-  const Case* const testCase = kCases;
+  const Case* const testCase = formatCases;
   unsigned char bytes[4] = {};
   EXPECT_EQ(VelFormat::ToText("%x", &number), HexadecimalAddress(&number));
   EXPECT_EQ(VelFormat::ToText("%x", testCase), HexadecimalAddress(testCase));
@@ -172,7 +172,7 @@ struct TemplateCase {
   const char* expected;
 };
 
-const TemplateCase kTemplateCases[] = {
+const TemplateCase templateCases[] = {
     {"empty", "", ""},
     {"surplus arguments", "nothing", "nothing"},
     {"arguments in order", "%d is %s.", "7 is seven."},
@@ -199,7 +199,7 @@ const TemplateCase kTemplateCases[] = {
 };
 
 TEST(VelFormat, Template_ThatDoesNotFitItsArguments_LosesNothing) {
-  for (const TemplateCase& testCase : kTemplateCases) {
+  for (const TemplateCase& testCase : templateCases) {
     SCOPED_TRACE(testCase.name);
     EXPECT_EQ(VelFormat::ToText(testCase.format, 7, "seven"), testCase.expected);
   }

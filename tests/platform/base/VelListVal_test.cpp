@@ -16,8 +16,8 @@
 
 namespace {
 
-constexpr const char* kInside = "1 <= position && position <= size";
-constexpr const char* kInsertable = "1 <= position && position <= size + 1";
+constexpr const char* inside = "1 <= position && position <= size";
+constexpr const char* insertable = "1 <= position && position <= size + 1";
 
 VelListValVelString ListOf(const std::vector<const char*>& iTexts) {
   VelListValVelString list;
@@ -42,7 +42,7 @@ struct PositionCase {
   const char* detail;  ///< Null where the position is inside the list of three.
 };
 
-constexpr PositionCase kPositions[] = {
+constexpr PositionCase positionCases[] = {
     {"first", 1, nullptr},
     {"last", 3, nullptr},
     {"zero", 0, "position = 0, size = 3"},
@@ -70,13 +70,13 @@ TEST(VelListVal, Read_CountsFromOne) {
 
 TEST(VelListVal, ReadOutsideItsPositions_ReportsAndAnswersAnEmptyValue) {
   const VelListValVelString list = ListOf({"a", "b", "c"});
-  for (const PositionCase& test : kPositions) {
+  for (const PositionCase& test : positionCases) {
     SCOPED_TRACE(test.name);
     const RecordingFailureObserver observer;
     const VelString& value = list[test.position];
     EXPECT_EQ(value.IsEmpty(), test.detail != nullptr);
     if (test.detail != nullptr) {
-      ExpectOneReport(observer, kInside, test.detail);
+      ExpectOneReport(observer, inside, test.detail);
     } else {
       EXPECT_TRUE(observer.Failures().empty());
     }
@@ -87,7 +87,7 @@ TEST(VelListVal, ReadWhileEmpty_ReportsAndAnswersAnEmptyValue) {
   const RecordingFailureObserver observer;
   const VelListValVelUnicodeString list;
   EXPECT_TRUE(list[1].IsEmpty());
-  ExpectOneReport(observer, kInside, "position = 1, size = 0");
+  ExpectOneReport(observer, inside, "position = 1, size = 0");
 }
 
 TEST(VelListVal, ReadTwiceOutside_AnswersTheSameEmptyValue) {
@@ -99,7 +99,7 @@ TEST(VelListVal, ReadTwiceOutside_AnswersTheSameEmptyValue) {
 }
 
 TEST(VelListVal, SetInsideAndOutside_WritesOrRefuses) {
-  for (const PositionCase& test : kPositions) {
+  for (const PositionCase& test : positionCases) {
     SCOPED_TRACE(test.name);
     const RecordingFailureObserver observer;
     VelListValVelString list = ListOf({"a", "b", "c"});
@@ -107,7 +107,7 @@ TEST(VelListVal, SetInsideAndOutside_WritesOrRefuses) {
     if (test.detail != nullptr) {
       EXPECT_EQ(code, E_INVALIDARG);
       EXPECT_EQ(list, ListOf({"a", "b", "c"}));
-      ExpectOneReport(observer, kInside, test.detail);
+      ExpectOneReport(observer, inside, test.detail);
       continue;
     }
     EXPECT_EQ(code, S_OK);
@@ -118,7 +118,7 @@ TEST(VelListVal, SetInsideAndOutside_WritesOrRefuses) {
 }
 
 TEST(VelListVal, RemovePositionInsideAndOutside_RemovesOrRefuses) {
-  for (const PositionCase& test : kPositions) {
+  for (const PositionCase& test : positionCases) {
     SCOPED_TRACE(test.name);
     const RecordingFailureObserver observer;
     VelListValVelString list = ListOf({"a", "b", "c"});
@@ -126,7 +126,7 @@ TEST(VelListVal, RemovePositionInsideAndOutside_RemovesOrRefuses) {
     if (test.detail != nullptr) {
       EXPECT_EQ(code, E_INVALIDARG);
       EXPECT_EQ(list, ListOf({"a", "b", "c"}));
-      ExpectOneReport(observer, kInside, test.detail);
+      ExpectOneReport(observer, inside, test.detail);
       continue;
     }
     EXPECT_EQ(code, S_OK);
@@ -163,7 +163,7 @@ TEST(VelListVal, InsertAtOutside_ReportsAndRefuses) {
     VelListValVelString list = ListOf({"a", "b"});
     EXPECT_EQ(list.InsertAt(test.position, "x"), E_INVALIDARG);
     EXPECT_EQ(list, ListOf({"a", "b"}));
-    ExpectOneReport(observer, kInsertable, test.detail);
+    ExpectOneReport(observer, insertable, test.detail);
   }
 }
 

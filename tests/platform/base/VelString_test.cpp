@@ -50,10 +50,10 @@ TEST(VelString, MadeFromNull_IsEmpty) {
 TEST(VelString, WhereALiteralStands_IsMadeImplicitly) { EXPECT_STREQ(TextOfName("BasicMaterial"), "BasicMaterial"); }
 
 TEST(VelString, MadeFromAView_KeepsEveryByte) {
-  constexpr std::string_view kBytes = "a\0b\xFF\xC3"sv;
-  const VelString text(kBytes);
+  constexpr std::string_view bytes = "a\0b\xFF\xC3"sv;
+  const VelString text(bytes);
   EXPECT_EQ(text.Length(), 5U);
-  EXPECT_EQ(text.View(), kBytes);
+  EXPECT_EQ(text.View(), bytes);
   EXPECT_STREQ(text.CString(), "a");
 }
 
@@ -163,11 +163,11 @@ TEST(VelString, CutToAPart_StaysInsideTheText) {
   const Case cases[] = {
       {"start", 0, 2, "ab"},
       {"middle", 1, 1, "b"},
-      {"rest", 1, VelString::kRest, "bc"},
+      {"rest", 1, VelString::rest, "bc"},
       {"count too large", 2, 9, "c"},
       {"at the end", 3, 1, ""},
       {"past the end", 4, 1, ""},
-      {"far past the end", VelString::kRest, VelString::kRest, ""},
+      {"far past the end", VelString::rest, VelString::rest, ""},
       {"nothing", 1, 0, ""},
   };
   for (const Case& test : cases) {

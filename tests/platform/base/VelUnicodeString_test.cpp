@@ -28,7 +28,7 @@ struct Utf8Case {
   std::u16string_view utf16;
 };
 
-constexpr Utf8Case kWellFormed[] = {
+constexpr Utf8Case wellFormedCases[] = {
     {"empty", ""sv, u""sv},
     {"ASCII", "velvet"sv, u"velvet"sv},
     {"embedded NUL", "a\0b"sv, u"a\0b"sv},
@@ -47,7 +47,7 @@ constexpr Utf8Case kWellFormed[] = {
     {"mixed", "a\xC3\xA4\xE2\x82\xAC\xF0\x9F\x8E\xA8z"sv, u"a\u00E4\u20AC\xD83C\xDFA8z"sv},
 };
 
-constexpr Utf8Case kIllFormed[] = {
+constexpr Utf8Case illFormedCases[] = {
     {"a lone trail byte", "\x80"sv, u"\xFFFD"sv},
     {"two lone trail bytes", "\x80\xBF"sv, u"\xFFFD\xFFFD"sv},
     {"overlong NUL of two bytes", "\xC0\x80"sv, u"\xFFFD\xFFFD"sv},
@@ -87,7 +87,7 @@ std::size_t CodePointsOf(std::u16string_view iText) {
 }
 
 TEST(VelUnicodeString, WithWellFormedBytes_RoundTripsThroughUtf16) {
-  for (const Utf8Case& test : kWellFormed) {
+  for (const Utf8Case& test : wellFormedCases) {
     SCOPED_TRACE(test.name);
     const VelUnicodeString text(test.utf8);
     EXPECT_TRUE(text.IsWellFormed());
@@ -99,7 +99,7 @@ TEST(VelUnicodeString, WithWellFormedBytes_RoundTripsThroughUtf16) {
 }
 
 TEST(VelUnicodeString, WithIllFormedBytes_ReplacesEachMaximalSubpartInUtf16) {
-  for (const Utf8Case& test : kIllFormed) {
+  for (const Utf8Case& test : illFormedCases) {
     SCOPED_TRACE(test.name);
     const VelUnicodeString text(test.utf8);
     EXPECT_FALSE(text.IsWellFormed());

@@ -21,10 +21,10 @@ bool TakeEscape(std::string_view& ioText, std::string& ioValue) {
   if (ioText.empty()) return false;
   const char letter = ioText.front();
   ioText.remove_prefix(1);
-  constexpr std::string_view kLetters = "\"\\/bfnrt";
-  constexpr std::string_view kValues = "\"\\/\b\f\n\r\t";
-  if (const std::size_t index = kLetters.find(letter); index != std::string_view::npos) {
-    ioValue += kValues[index];
+  constexpr std::string_view letters = "\"\\/bfnrt";
+  constexpr std::string_view values = "\"\\/\b\f\n\r\t";
+  if (const std::size_t index = letters.find(letter); index != std::string_view::npos) {
+    ioValue += values[index];
     return true;
   }
   unsigned code = 0;

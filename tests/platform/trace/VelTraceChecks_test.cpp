@@ -21,7 +21,7 @@ struct Case {
   const char* expected;
 };
 
-const Case kCases[] = {
+const Case textCases[] = {
     {"message alone", {VelFailureKind::Check, {"s", 1}, "", "Odd", ""}, "Odd"},
     {"expression", {VelFailureKind::Check, {"s", 1}, "a < b", "Odd", ""}, "Odd { expression = a < b }"},
     {"detail", {VelFailureKind::Check, {"s", 1}, "", "Odd", "7"}, "Odd { detail = 7 }"},
@@ -33,7 +33,7 @@ const Case kCases[] = {
 };
 
 TEST_F(VelTraceChecksTest, Report_OfAnyKind_BecomesAnErrorWithItsData) {
-  for (const Case& testCase : kCases) {
+  for (const Case& testCase : textCases) {
     SCOPED_TRACE(testCase.name);
     recorder_.Clear();
     VelCheck::Publish(testCase.report);

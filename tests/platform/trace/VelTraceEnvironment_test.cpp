@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr const char* kVariables[] = {"VEL_TRACE", "VEL_TRACE_FILE", "VEL_TRACE_JSON"};
+constexpr const char* variables[] = {"VEL_TRACE", "VEL_TRACE_FILE", "VEL_TRACE_JSON"};
 
 class VelTraceEnvironmentTest : public TraceTest {
  protected:
@@ -27,7 +27,7 @@ class VelTraceEnvironmentTest : public TraceTest {
 
  private:
   static void UnsetAll() {
-    for (const char* const variable : kVariables) ::unsetenv(variable);
+    for (const char* const variable : variables) ::unsetenv(variable);
   }
 };
 

@@ -104,7 +104,7 @@ struct TextCase {
   std::string readBack;
 };
 
-const std::string kReplacement = "\xEF\xBF\xBD";
+const std::string replacement = "\xEF\xBF\xBD";
 
 const std::vector<TextCase>& TextCases() {
   static const auto& cases = *new std::vector<TextCase>{
@@ -115,10 +115,10 @@ const std::vector<TextCase>& TextCases() {
       {"delete and slash stay", "\x7F/", "\x7F/", "\x7F/"},
       {"two to four byte characters", "\xC3\xBC\xE2\x82\xAC\xF0\x9F\x98\x80", "\xC3\xBC\xE2\x82\xAC\xF0\x9F\x98\x80",
        "\xC3\xBC\xE2\x82\xAC\xF0\x9F\x98\x80"},
-      {"stray byte", "a\xFFz", "a" + kReplacement + "z", "a" + kReplacement + "z"},
-      {"cut short at the end", "a\xE2\x82", "a" + kReplacement, "a" + kReplacement},
-      {"overlong quotation mark", "\xC0\xA2", kReplacement + kReplacement, kReplacement + kReplacement},
-      {"ill-formed beside what needs an escape", "\xFF\"", kReplacement + "\\\"", kReplacement + "\""},
+      {"stray byte", "a\xFFz", "a" + replacement + "z", "a" + replacement + "z"},
+      {"cut short at the end", "a\xE2\x82", "a" + replacement, "a" + replacement},
+      {"overlong quotation mark", "\xC0\xA2", replacement + replacement, replacement + replacement},
+      {"ill-formed beside what needs an escape", "\xFF\"", replacement + "\\\"", replacement + "\""},
       {"percent signs", "100%s", "100%s", "100%s"},
   };
   return cases;

@@ -49,7 +49,7 @@ VelTraceRecord Record(VelTraceKind iKind, const char* iText, VelSourcePosition i
   return {iKind, iLevel, "Channel", iText, iPosition, 5, 1};
 }
 
-const LineCase kLineCases[] = {
+const LineCase lineCases[] = {
     {"information", Record(VelTraceKind::Information, "text"), "[info] Channel: text\n"},
     {"warning", Record(VelTraceKind::Warning, "text"), "[warning] Channel: text\n"},
     {"error", Record(VelTraceKind::Error, "text", {"src/Thing", 12}), "[error] Channel: text (src/Thing:12)\n"},
@@ -65,7 +65,7 @@ const LineCase kLineCases[] = {
 
 TEST_F(VelTraceSinksTest, StreamSink_PrintsOneLinePerRecord) {
   VelTraceStreamSink sink;
-  for (const LineCase& testCase : kLineCases) {
+  for (const LineCase& testCase : lineCases) {
     SCOPED_TRACE(testCase.name);
     EXPECT_EQ(PrintedBy([&] { sink.Write(testCase.record); }), testCase.expected);
   }

@@ -25,7 +25,7 @@ struct Case {
   const char* beta;   ///< State of the channel "Beta".
 };
 
-const Case kCases[] = {
+const Case levelCases[] = {
     {"nothing", "", "ew", "ew"},
     {"only blanks and commas", " , ,\t,", "ew", "ew"},
     {"off", "Alpha=off", "", "ew"},
@@ -52,7 +52,7 @@ const Case kCases[] = {
 };
 
 TEST_F(VelTraceSwitchesTest, SetSwitches_WithGoodItems_SwitchesAndStaysSilent) {
-  for (const Case& testCase : kCases) {
+  for (const Case& testCase : levelCases) {
     SCOPED_TRACE(testCase.name);
     VelTraceService::SetSwitches(testCase.switches);
     EXPECT_EQ(StateOf("Alpha"), testCase.alpha);
@@ -66,7 +66,7 @@ struct BadCase {
   bool isLevelBad;  ///< Else the pattern is.
 };
 
-const BadCase kBadCases[] = {
+const BadCase badCases[] = {
     {"Alpha=loud", true},   {"Alpha=", true},
     {"Alpha=0", true},      {"Alpha=10", true},
     {"Alpha=-1", true},     {"Alpha=INFO", true},
@@ -77,7 +77,7 @@ const BadCase kBadCases[] = {
 };
 
 TEST_F(VelTraceSwitchesTest, SetSwitches_WithABadItem_WarnsOnceAndHeedsTheOthers) {
-  for (const BadCase& testCase : kBadCases) {
+  for (const BadCase& testCase : badCases) {
     SCOPED_TRACE(testCase.item);
     recorder_.Clear();
     VelTraceService::SetSwitches(std::string("Alpha=error, ") + testCase.item + " ,Beta=info");

@@ -17,7 +17,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::size_t kLimit = 4194304;
+constexpr std::size_t byteLimit = 4194304;
 
 class VelSystemFileTest : public ::testing::Test {
  protected:
@@ -39,7 +39,7 @@ TEST_F(VelSystemFileTest, ReadWholeFile_OfARegularFile_AnswersEveryByte) {
   for (const Case& test : cases) {
     SCOPED_TRACE(test.name);
     std::string bytes = "before";
-    EXPECT_EQ(VelSystemFile::ReadWholeFile(folder_.Write("file", test.bytes), kLimit, bytes, cause_), S_OK);
+    EXPECT_EQ(VelSystemFile::ReadWholeFile(folder_.Write("file", test.bytes), byteLimit, bytes, cause_), S_OK);
     EXPECT_TRUE(bytes == test.bytes) << bytes.size() << " bytes were read";
     EXPECT_EQ(cause_, "");
   }
@@ -57,7 +57,7 @@ TEST_F(VelSystemFileTest, ReadWholeFile_AtTheLimit_ReadsAndPastItRefuses) {
 
 TEST_F(VelSystemFileTest, ReadWholeFile_OfAFileThatTellsNoSize_HoldsTheLimit) {
   std::string bytes;
-  EXPECT_EQ(VelSystemFile::ReadWholeFile("/proc/self/status", kLimit, bytes, cause_), S_OK);
+  EXPECT_EQ(VelSystemFile::ReadWholeFile("/proc/self/status", byteLimit, bytes, cause_), S_OK);
   EXPECT_TRUE(std::string_view(bytes).starts_with("Name:"));
   EXPECT_EQ(VelSystemFile::ReadWholeFile("/proc/self/status", 3, bytes, cause_), E_FAIL);
   EXPECT_EQ(cause_, "is larger than 3 bytes");
@@ -89,7 +89,7 @@ TEST_F(VelSystemFileTest, ReadWholeFile_OfAnythingElse_RefusesWithACause) {
   for (const Case& test : cases) {
     SCOPED_TRACE(test.name);
     std::string bytes = "before";
-    EXPECT_EQ(VelSystemFile::ReadWholeFile(test.path, kLimit, bytes, cause_), test.code);
+    EXPECT_EQ(VelSystemFile::ReadWholeFile(test.path, byteLimit, bytes, cause_), test.code);
     EXPECT_EQ(cause_, test.cause);
     EXPECT_EQ(bytes, "before");
   }

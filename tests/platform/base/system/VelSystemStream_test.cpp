@@ -14,23 +14,23 @@
 
 namespace {
 
-constexpr int kStandardError = STDERR_FILENO;
+constexpr int standardError = STDERR_FILENO;
 
 /// Puts a pipe in the place of the standard error stream and reads from it slowly on a thread of its own.
 class PipedStandardError {
  public:
   explicit PipedStandardError(int iFlags) {
-    saved_ = ::dup(kStandardError);
+    saved_ = ::dup(standardError);
     EXPECT_EQ(::pipe(pipe_), 0);
     EXPECT_EQ(::fcntl(pipe_[1], F_SETFL, iFlags), 0);
-    ::dup2(pipe_[1], kStandardError);
+    ::dup2(pipe_[1], standardError);
     ::close(pipe_[1]);
     reader_ = std::thread([this] { ReadAll(); });
   }
 
   /// Puts the stream back and answers what was written meanwhile.
   std::string Finish() {
-    ::dup2(saved_, kStandardError);
+    ::dup2(saved_, standardError);
     ::close(saved_);
     reader_.join();
     ::close(pipe_[0]);
@@ -109,10 +109,10 @@ TEST(VelSystemStream, WithShortText_AddsNothing) {
 }
 
 TEST(VelSystemStream, WhileTheStreamIsClosed_TellsThatItFailed) {
-  const int saved = ::dup(kStandardError);
-  ::close(kStandardError);
+  const int saved = ::dup(standardError);
+  ::close(standardError);
   const bool written = VelSystemStream::WriteToStandardError("lost");
-  ::dup2(saved, kStandardError);
+  ::dup2(saved, standardError);
   ::close(saved);
   EXPECT_FALSE(written);
 }
