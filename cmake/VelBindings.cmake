@@ -1,21 +1,28 @@
 # SPDX-FileCopyrightText: 2026 The VelRshModel authors
 # SPDX-License-Identifier: Apache-2.0
 #
-# vel_dictionary(<target> GRID <file> [OUTPUT_NAME <file name>]): builds the dictionary file of a module from its binding
-# grid, in the folder lib/dictionaries of the build, beside the libraries' folder, and makes the target depend on it.
-set(VEL_DICTIONARY_FOLDER "${CMAKE_BINARY_DIR}/lib/dictionaries")
-file(MAKE_DIRECTORY "${VEL_DICTIONARY_FOLDER}")
+# vel_dictionary(<target> GRID <file>): builds the dictionary file of a module from its binding grid, in the folder
+# lib/dictionaries of the build, beside the libraries' folder, and makes the target depend on it. The grid's path is the one by
+# which the target's own sources include it. Works for targets outside this repository too.
+set(VEL_BINDINGS_ROOT "${CMAKE_CURRENT_LIST_DIR}/.." CACHE INTERNAL "Where the platform's headers are found")
 
 function(vel_dictionary target)
   cmake_parse_arguments(ARG "" "GRID" "" ${ARGN})
+  set(folder "${CMAKE_BINARY_DIR}/lib/dictionaries")
+  file(MAKE_DIRECTORY "${folder}")
   set(printer "${target}_dictionary")
   set(source "${CMAKE_CURRENT_BINARY_DIR}/${printer}.cpp")
-  set(dictionary "${VEL_DICTIONARY_FOLDER}/${target}.dictionary")
+  set(dictionary "${folder}/${target}.dictionary")
+  set(library "lib${target}.so")
+  get_target_property(soversion ${target} SOVERSION)
+  if(NOT soversion STREQUAL "soversion-NOTFOUND")
+    string(APPEND library ".${soversion}")
+  endif()
   file(CONFIGURE OUTPUT "${source}" @ONLY CONTENT
-       "#define VEL_GRID_FILE \"@ARG_GRID@\"\n#define VEL_GRID_LIBRARY \"../lib@target@.so\"
+       "#define VEL_GRID_FILE \"@ARG_GRID@\"\n#define VEL_GRID_LIBRARY \"../@library@\"
 #include \"platform/objectmodeler/VelBindingGridText.inl\"\n")
   add_executable(${printer} "${source}")
-  target_include_directories(${printer} PRIVATE "${PROJECT_SOURCE_DIR}")
+  target_include_directories(${printer} PRIVATE "${VEL_BINDINGS_ROOT}" $<TARGET_PROPERTY:${target},INCLUDE_DIRECTORIES>)
   target_compile_features(${printer} PRIVATE cxx_std_20)
   add_custom_command(OUTPUT "${dictionary}" COMMAND ${printer} > "${dictionary}" DEPENDS ${printer} VERBATIM)
   add_custom_target(${target}_dictionary_file ALL DEPENDS "${dictionary}")

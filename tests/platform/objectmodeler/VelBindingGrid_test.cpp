@@ -46,7 +46,7 @@ TEST(VelBindingGridTest, DictionaryFile_IsTheGridLineByLine) {
             "velrsh-dictionary 1\n"
             "module VelTestGrid\n"
             "framework TestFramework\n"
-            "library ../libVelTestGrid.so\n"
+            "library ../libVelTestGrid.so.0\n"
             "type VelTestGridDerived VelTestGridThing\n"
             "class VelTestGridMain Implementation\n"
             "class VelTestGridSpeaker Extension\n"
