@@ -15,12 +15,12 @@
 class VelToken {
  public:
   /// Blank, tab, carriage return, line feed, vertical tab, form feed.
-  static constexpr const char* kWhiteSpace = " \t\r\n\v\f";
+  static constexpr const char* whiteSpace = " \t\r\n\v\f";
 
   /// @param[in] iText copied
   /// @param[in] iSeparators each of its ASCII bytes separates; others are passed over, so that no character of several
   /// bytes is ever cut. Without any, the whole text is one word.
-  VEL_PLATFORM_API explicit VelToken(const VelString& iText, const VelString& iSeparators = kWhiteSpace);
+  VEL_PLATFORM_API explicit VelToken(const VelString& iText, const VelString& iSeparators = whiteSpace);
 
   /// @return the next word; an empty one at the end, and at every call from then on
   VEL_PLATFORM_API VelString Next();

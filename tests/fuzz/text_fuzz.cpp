@@ -73,7 +73,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* iData, std::size_t iSi
   const std::string_view bytes(reinterpret_cast<const char*>(iData), iSize);
   CheckUtf16(bytes);
   CheckUnits(bytes);
-  CheckWords(bytes, VelToken::kWhiteSpace);
+  CheckWords(bytes, VelToken::whiteSpace);
   if (bytes.empty()) return 0;
 
   // The first byte says how many of the following are the separators or the text to remove.
