@@ -142,6 +142,15 @@ VelImplementation* VelBuilder::Build(VelComponent& ioComponent, const VelBinding
   return VelComponentAccess::Find(ioComponent, row.record);
 }
 
+void VelBuilder::CatchUpWithFathers(VelComponent& ioComponent) {
+  const VelBinding* main = ioComponent.LateType().MainImplementation();
+  if (main == nullptr || VelComponentAccess::Find(ioComponent, main->record) == nullptr) return;
+  ++depth;
+  BuildFathers(ioComponent);
+  if (depth == 1) RunQueue();
+  --depth;
+}
+
 VelImplementation* VelBuilder::BuildForOneForwarder(VelComponent& ioComponent, const VelBinding& iRow) {
   VelImplementation* built = ConstructImplementation(ioComponent, iRow);
   if (built == nullptr) return nullptr;

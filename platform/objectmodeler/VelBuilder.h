@@ -18,6 +18,10 @@ class VelBuilder {
   ///         closed meanwhile
   static VelImplementation* Build(VelComponent& ioComponent, const VelBinding& iRow);
 
+  /// Builds the main implementations of a component's fathers when its own is built: a component that was built before
+  /// it had a father is heard by its new fathers from then on.
+  static void CatchUpWithFathers(VelComponent& ioComponent);
+
   /// Builds an implementation that lives as long as one forwarder; both phases run at once.
   /// @return as Build; the caller owns it
   static VelImplementation* BuildForOneForwarder(VelComponent& ioComponent, const VelBinding& iRow);

@@ -85,11 +85,20 @@ void VelComponent::Open() noexcept {
   if (state_ == VelComponentState::BeingCreated) Announce(VelComponentState::InSession);
 }
 
-void VelComponent::Close() noexcept {
-  if (state_ == VelComponentState::Closed) return;
-  ++count_;  // What is told and destroyed here may take and drop references on its component.
+bool VelComponent::AnnounceClosed() noexcept {
+  if (state_ == VelComponentState::Closed) return false;
+  ++count_;  // What is told here may take and drop references on its component.
   Announce(VelComponentState::Closed);
-  if (live_ != nullptr && live_->pins == 0) VelComponentAccess::DestroyImplementations(*live_);
+  --count_;
+  return true;
+}
+
+void VelComponent::Close() noexcept {
+  ++count_;  // Likewise what is destroyed.
+  if (AnnounceClosed() && (live_ == nullptr || live_->pins == 0)) {
+    if (live_ != nullptr) VelComponentAccess::DestroyImplementations(*live_);
+    OnEnded();
+  }
   --count_;
 }
 

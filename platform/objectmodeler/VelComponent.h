@@ -60,6 +60,12 @@ class VEL_PLATFORM_API VelComponent : public VelBaseUnknown {
   /// youngest first, as soon as no running call holds it (VelPin).
   void Close() noexcept;
 
+  /// The first half of Close, for those who end many components at once. @return false when it is closed already
+  bool AnnounceClosed() noexcept;
+
+  /// Called once what was built is destroyed after Close, at the latest when the last pin goes.
+  virtual void OnEnded() noexcept {}
+
   /// Called when the last reference is gone.
   virtual void OnUnreferenced() noexcept = 0;
 

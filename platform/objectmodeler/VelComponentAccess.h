@@ -41,6 +41,11 @@ class VelComponentAccess {
 
   /// @return what was built before an implementation for the same component, null for the first
   static VelImplementation* Older(const VelImplementation& iImplementation) noexcept { return iImplementation.next_; }
+
+  /// @return the class by which an implementation is found in its component, null before it is part of it
+  static const VelClassRecord* Record(const VelImplementation& iImplementation) noexcept {
+    return iImplementation.record_;
+  }
 };
 
 #endif  // PLATFORM_OBJECTMODELER_VELCOMPONENTACCESS_H

@@ -9,41 +9,21 @@
 #include <unordered_map>
 #include <utility>
 
-namespace {
+#include "platform/base/VelLineReader.h"
 
-using Words = std::vector<std::string_view>;
+namespace {
 
 constexpr std::string_view header = "velrsh-dictionary";
 constexpr std::string_view version = "1";
 constexpr std::size_t rowLimit = 16384;
 constexpr std::size_t statementLimit = 32768;
 
-/// Splits a line at blanks, up to a word that begins with '#'.
-Words Split(std::string_view iLine) {
-  constexpr std::string_view blanks = " \t\r\f\v";
-  Words words;
-  for (std::size_t begin = iLine.find_first_not_of(blanks); begin != std::string_view::npos && iLine[begin] != '#';) {
-    const std::size_t end = std::min(iLine.find_first_of(blanks, begin), iLine.size());
-    words.push_back(iLine.substr(begin, end - begin));
-    begin = iLine.find_first_not_of(blanks, end);
-  }
-  return words;
-}
-
-/// Names go into symbol names, so they are letters, digits and underscores.
-bool IsName(std::string_view iWord) {
-  return std::all_of(iWord.begin(), iWord.end(), [](char iByte) {
-    return (iByte >= 'A' && iByte <= 'Z') || (iByte >= 'a' && iByte <= 'z') || (iByte >= '0' && iByte <= '9') ||
-           iByte == '_';
-  });
-}
-
 /// Reads one file; each Take function handles one keyword and says what is wrong with its line, or nothing.
 class Reading {
  public:
   explicit Reading(std::vector<VelDictionaryModule>& oModules) : modules_(oModules) {}
 
-  std::optional<std::string> TakeLine(const Words& iWords, unsigned iLine) {
+  std::optional<std::string> TakeLine(const VelWords& iWords, unsigned iLine) {
     line_ = iLine;
     if (!headerSeen_) return TakeHeader(iWords);
     for (const Keyword& keyword : keywords) {
@@ -64,7 +44,7 @@ class Reading {
     std::string_view word;
     std::string_view operands;  ///< As an error message lists them.
     std::size_t operandCount;
-    std::optional<std::string> (Reading::*take)(const Words&);
+    std::optional<std::string> (Reading::*take)(const VelWords&);
   };
   static const std::array<Keyword, 7> keywords;
 
@@ -74,7 +54,7 @@ class Reading {
     std::optional<VelLifetime> lifetime;  ///< That of its rows, which all have the same.
   };
 
-  std::optional<std::string> TakeHeader(const Words& iWords) {
+  std::optional<std::string> TakeHeader(const VelWords& iWords) {
     if (iWords.size() != 2 || iWords[0] != header)
       return "expected the line 'velrsh-dictionary 1' before anything else";
     if (iWords[1] != version) {
@@ -84,13 +64,13 @@ class Reading {
     return std::nullopt;
   }
 
-  std::optional<std::string> TakeStatement(const Keyword& iKeyword, const Words& iWords) {
+  std::optional<std::string> TakeStatement(const Keyword& iKeyword, const VelWords& iWords) {
     if (iWords.size() != iKeyword.operandCount + 1) {
       return "'" + std::string(iKeyword.word) + "' takes " + std::string(iKeyword.operands) + ", found " +
              std::to_string(iWords.size() - 1) + " words";
     }
     for (std::size_t i = 1; i < iWords.size() && iKeyword.word != "library"; ++i) {
-      if (!IsName(iWords[i])) return "'" + std::string(iWords[i]) + "' is no name, expected letters, digits and '_'";
+      if (!VelIsName(iWords[i])) return "'" + std::string(iWords[i]) + "' is no name, expected letters, digits and '_'";
     }
     if (modules_.empty() && iKeyword.word != "module") return "expected a 'module' line before this one";
     if (++statementCount_ > statementLimit) {
@@ -105,7 +85,7 @@ class Reading {
     return std::nullopt;
   }
 
-  std::optional<std::string> TakeModule(const Words& iWords) {
+  std::optional<std::string> TakeModule(const VelWords& iWords) {
     if (!modules_.empty()) {
       if (auto fault = FindIncomplete(modules_.back())) return fault;
     }
@@ -119,20 +99,20 @@ class Reading {
     return std::nullopt;
   }
 
-  std::optional<std::string> TakeOnce(std::string& oField, const Words& iWords) {
+  std::optional<std::string> TakeOnce(std::string& oField, const VelWords& iWords) {
     if (!oField.empty()) return "'" + std::string(iWords[0]) + "' stands twice for the module '" + Module().name + "'";
     oField = iWords[1];
     return std::nullopt;
   }
-  std::optional<std::string> TakeFramework(const Words& iWords) { return TakeOnce(Module().framework, iWords); }
-  std::optional<std::string> TakeLibrary(const Words& iWords) { return TakeOnce(Module().library, iWords); }
+  std::optional<std::string> TakeFramework(const VelWords& iWords) { return TakeOnce(Module().framework, iWords); }
+  std::optional<std::string> TakeLibrary(const VelWords& iWords) { return TakeOnce(Module().library, iWords); }
 
-  std::optional<std::string> TakeType(const Words& iWords) {
+  std::optional<std::string> TakeType(const VelWords& iWords) {
     Module().types.push_back({std::string(iWords[1]), std::string(iWords[2]), line_});
     return std::nullopt;
   }
 
-  std::optional<std::string> TakeClass(const Words& iWords) {
+  std::optional<std::string> TakeClass(const VelWords& iWords) {
     constexpr std::array<std::pair<std::string_view, VelTypeOfClass>, 3> kinds{
         {{"Implementation", VelTypeOfClass::Implementation},
          {"Extension", VelTypeOfClass::Extension},
@@ -147,7 +127,7 @@ class Reading {
     return "unknown kind '" + std::string(iWords[2]) + "', expected Implementation, Extension or DelegatingExtension";
   }
 
-  std::optional<std::string> TakeBind(const Words& iWords) {
+  std::optional<std::string> TakeBind(const VelWords& iWords) {
     ClassFacts* owner = FindClass(iWords[5]);
     if (owner == nullptr) return "the class '" + std::string(iWords[5]) + "' has no 'class' line before this one";
     const bool isTie = iWords[3] == "TIE";
@@ -169,7 +149,7 @@ class Reading {
                    lifetime, std::string(iWords[5]), line_});
   }
 
-  std::optional<std::string> TakeExtend(const Words& iWords) {
+  std::optional<std::string> TakeExtend(const VelWords& iWords) {
     std::vector<VelDictionaryRow> copies;
     for (const VelDictionaryRow& row : Module().rows) {
       if (row.className != iWords[2]) continue;
@@ -225,20 +205,15 @@ bool VelDictionaryReader::Read(std::string_view iText, std::vector<VelDictionary
                                VelDictionaryFault& oFault) {
   oModules.clear();
   Reading reading(oModules);
-  unsigned line = 0;
-  while (!iText.empty()) {
-    const std::size_t end = std::min(iText.find('\n'), iText.size());
-    const Words words = Split(iText.substr(0, end));
-    iText.remove_prefix(std::min(end + 1, iText.size()));
-    ++line;
-    if (words.empty()) continue;
-    if (auto fault = reading.TakeLine(words, line)) {
-      oFault = {line, *std::move(fault)};
+  VelLineReader lines(iText);
+  while (lines.Next()) {
+    if (auto fault = reading.TakeLine(lines.Words(), lines.Line())) {
+      oFault = {lines.Line(), *std::move(fault)};
       return false;
     }
   }
   if (auto fault = reading.Finish()) {
-    oFault = {std::max(line, 1U), *std::move(fault)};
+    oFault = {std::max(lines.Line(), 1U), *std::move(fault)};
     return false;
   }
   return true;

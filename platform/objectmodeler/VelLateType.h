@@ -12,6 +12,7 @@
 #include "platform/objectmodeler/VelInterfaceId.h"
 #include "platform/objectmodeler/VelModule.h"
 
+class VelFeatureLayout;
 struct VelDictionarySource;
 class VelLateType;
 
@@ -78,6 +79,10 @@ class VelLateType {
   void Add(VelBinding& ioRow);
   void RemoveRowsOf(const VelDictionarySource& iSource) noexcept;
 
+  /// The compiled start-up of a late type whose components are features; null for any other. Set once by the catalogs.
+  const VelFeatureLayout* Layout() const noexcept { return layout_; }
+  void SetLayout(const VelFeatureLayout& iLayout) noexcept { layout_ = &iLayout; }
+
   /// @return the row that answers an interface, this type's own before its bases'; null when there is none. The row's
   ///         library may not be open.
   VelBinding* Declared(std::uint32_t iInterfaceIndex) const noexcept;
@@ -117,6 +122,7 @@ class VelLateType {
   std::string name_;
   VelLateType* base_ = nullptr;
   const VelDictionarySource* baseSource_ = nullptr;
+  const VelFeatureLayout* layout_ = nullptr;
 };
 
 #endif  // PLATFORM_OBJECTMODELER_VELLATETYPE_H

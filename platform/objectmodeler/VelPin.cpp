@@ -9,4 +9,5 @@ void VelPin::MakeLivePart(VelComponent& ioComponent) noexcept { VelComponentAcce
 
 void VelPin::Destroy(VelComponent& ioComponent) noexcept {
   VelComponentAccess::DestroyImplementations(VelComponentAccess::Live(ioComponent));
+  ioComponent.OnEnded();
 }

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The VelRshModel authors
+// SPDX-License-Identifier: Apache-2.0
+/// @file VelSpecDocumentLinkHooks.h What happens to the documents that features link when the features are copied or
+/// removed.
+#ifndef PLATFORM_FEATUREMODELER_VELSPECDOCUMENTLINKHOOKS_H
+#define PLATFORM_FEATUREMODELER_VELSPECDOCUMENTLINKHOOKS_H
+
+#include "platform/base/VelPlatformApi.h"
+#include "platform/objectmodeler/VelBaseUnknown.h"
+
+/// Counts document links for the document service. Called whether or not anything was ever built for the feature.
+/// Closing a container calls neither.
+class VEL_PLATFORM_API VelSpecDocumentLinkHooks {
+ public:
+  /// A feature with a link to the document was copied.
+  virtual void OnCopied(VelBaseUnknown& ioDocument) = 0;
+
+  /// A feature with a link to the document was removed.
+  virtual void OnDropped(VelBaseUnknown& ioDocument) = 0;
+
+  /// Installs the hooks of the process, which are not owned. @return those that were installed, null for none
+  static VelSpecDocumentLinkHooks* Install(VelSpecDocumentLinkHooks* iHooks) noexcept;
+
+  /// @return the hooks that are installed, null for none
+  static VelSpecDocumentLinkHooks* Installed() noexcept;
+
+ protected:
+  ~VelSpecDocumentLinkHooks() = default;
+};
+
+#endif  // PLATFORM_FEATUREMODELER_VELSPECDOCUMENTLINKHOOKS_H
