@@ -164,19 +164,9 @@ TEST_F(VelPlatformSessionTest, DictionaryLoadedBeforeTheSession_StaysAfterIt) {
 }
 
 TEST_F(VelPlatformSessionTest, Inputs_ThatNoServiceReads_AreRefused) {
-  struct Case {
-    VelPlatformOptions options;
-    const char* expected;
-  };
-  for (const Case& test :
-       {Case{{.catalogs = {"a.feat"}}, "No service of this process reads catalogs, found 'a.feat'"},
-        Case{{.configurations = {"a.toml"}}, "No service of this process reads configurations, found 'a.toml'"}}) {
-    SCOPED_TRACE(test.expected);
-    recorder_.Clear();
-    VelPlatformSession session;
-    EXPECT_EQ(session.Start(test.options), E_FAIL);
-    EXPECT_EQ(Errors(), Texts{test.expected});
-  }
+  VelPlatformSession session;
+  EXPECT_EQ(session.Start({.catalogs = {"a.feat"}}), E_FAIL);
+  EXPECT_EQ(Errors(), Texts{"No service of this process reads catalogs, found 'a.feat'"});
 }
 
 TEST_F(VelPlatformSessionTest, FolderOfWhichAFileWasLoadedBefore_LosesOnlyWhatTheSessionLoaded) {

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The VelRshModel authors
+// SPDX-License-Identifier: Apache-2.0
+/// @file VelConfigurationParticipant.cpp Loads the configurations of a session and takes them out at its end.
+#include "platform/session/VelConfigurationParticipant.h"
+
+#include "platform/base/VelEnvironment.h"
+#include "platform/base/VelToken.h"
+#include "platform/configuration/VelConfigurationLoader.h"
+#include "platform/configuration/VelConfigurationTables.h"
+#include "platform/session/VelPlatformSession.h"
+#include "platform/trace/VelTraceHandle.h"
+
+namespace {
+
+constexpr const char* channel = "VelPlatformSession";
+
+bool AddParticipant() {
+  VelPlatformSession::AddParticipant(*new VelConfigurationParticipant);
+  return true;
+}
+
+[[maybe_unused]] const bool participantAdded = AddParticipant();
+
+HRESULT Load(const std::string& iPath) { return VelConfigurationLoader(VelConfigurationOwner::Session).Load(iPath); }
+
+}  // namespace
+
+HRESULT VelConfigurationParticipant::OnSessionStart(const VelPlatformOptions& iOptions) {
+  LoadEnvironment();
+  const HRESULT result = LoadOptions(iOptions.configurations);
+  // A service that did not start is not ended either.
+  if (FAILED(result)) OnSessionEnd();
+  return result;
+}
+
+void VelConfigurationParticipant::OnSessionEnd() { VelConfigurationTables::Instance().EndSession(); }
+
+void VelConfigurationParticipant::LoadEnvironment() {
+  VelString paths;
+  if (!VelEnvironment::Get("VEL_CONFIGURATION_PATH", paths)) return;
+  VelToken token(paths, ":");
+  for (VelString path = token.Next(); !path.IsEmpty(); path = token.Next()) {
+    if (SUCCEEDED(Load(std::string(path.View())))) continue;
+    VelTraceHandle(channel).Warning("VEL_CONFIGURATION_PATH names '%s', which is left out", path);
+  }
+}
+
+HRESULT VelConfigurationParticipant::LoadOptions(const std::vector<std::string>& iConfigurations) {
+  for (const std::string& configuration : iConfigurations) {
+    // One that is nowhere is left to the loader, which says so.
+    const std::string found = VelPlatformSession::Current()->Locate(configuration);
+    if (SUCCEEDED(Load(found.empty() ? configuration : found))) continue;
+    VelTraceHandle(channel).Error(VEL_HERE("platform/session/VelConfigurationParticipant"),
+                                  "The session does not start without its configuration '%s'", configuration);
+    return E_FAIL;
+  }
+  return S_OK;
+}

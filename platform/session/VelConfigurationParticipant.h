@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The VelRshModel authors
+// SPDX-License-Identifier: Apache-2.0
+/// @file VelConfigurationParticipant.h Loads the configurations of a session and takes them out at its end.
+#ifndef PLATFORM_SESSION_VELCONFIGURATIONPARTICIPANT_H
+#define PLATFORM_SESSION_VELCONFIGURATIONPARTICIPANT_H
+
+#include <string>
+#include <vector>
+
+#include "platform/session/VelSessionParticipant.h"
+
+/// Loads what VEL_CONFIGURATION_PATH names (files and folders, separated by ':'; a faulty one is reported and left
+/// out), then what the options name, of which a faulty one ends the start. At the end of the session its values go, and
+/// those that they covered come back. It adds itself when the platform's library is loaded. Not exported.
+class VelConfigurationParticipant final : public VelSessionParticipant {
+ public:
+  VelSessionInputs Inputs() const noexcept override { return {.configurations = true}; }
+  HRESULT OnSessionStart(const VelPlatformOptions& iOptions) override;
+  void OnSessionEnd() override;
+
+ private:
+  static void LoadEnvironment();
+  static HRESULT LoadOptions(const std::vector<std::string>& iConfigurations);
+};
+
+#endif  // PLATFORM_SESSION_VELCONFIGURATIONPARTICIPANT_H
