@@ -7,7 +7,7 @@
 # Every need and its packages. Names without a compiler's version, so that a later Debian brings its own.
 declare -A packages_for=(
   [build]="g++ cmake ninja-build ccache"
-  [libraries]=""
+  [libraries]="libtomlplusplus-dev"
   [test]="libgtest-dev locales"
   [bench]="libbenchmark-dev"
   [clang]="clang libclang-rt-dev"
