@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <map>
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -15,6 +16,7 @@
 #include "platform/featuremodeler/VelFeature.h"
 #include "platform/featuremodeler/VelFeatureLayout.h"
 #include "platform/featuremodeler/VelFeatureSlab.h"
+#include "platform/objectmodeler/VelDictionarySource.h"
 #include "platform/objectmodeler/VelLateType.h"
 #include "platform/trace/VelTraceHandle.h"
 
@@ -25,6 +27,8 @@ struct VelCatalogRegistry {
   std::map<std::string, const VelCatalog*, std::less<>> catalogs;
   std::map<std::string, const VelFeatureLayout*, std::less<>> startUps;
   std::vector<std::string> folders;
+  /// One per catalog: whom the dictionary names when a file of its own contradicts a base.
+  std::vector<std::unique_ptr<VelDictionarySource>> sources;
 
   static VelCatalogRegistry& Get() {
     static auto& registry = *new VelCatalogRegistry;
@@ -95,9 +99,15 @@ VelCatalogFault VelCatalogRegistry::FindTaken(const VelCatalogStartUp& iStartUp)
   if (startUps.contains(iStartUp.name)) {
     return {iStartUp.line, "another catalog declares the start-up '" + iStartUp.name + "' already"};
   }
-  // Features derive from the first two, so these would derive from themselves; the others' components are no features.
+  // Features derive from the first two; the components of the last two are no features.
   for (const char* own : {"VelComponent", "VelFeature", "VelContainer", "VelStartUp"}) {
     if (iStartUp.name == own) return {iStartUp.line, "the name '" + iStartUp.name + "' is the platform's own"};
+  }
+  // Nor can a start-up derive from itself through what a dictionary puts above all features.
+  for (const VelLateType* above = &VelLateType::Of("VelFeature"); above != nullptr; above = above->Base()) {
+    if (above->Name() == iStartUp.name) {
+      return {iStartUp.line, "every feature derives from '" + iStartUp.name + "' already"};
+    }
   }
   const VelLateType* lateType = VelLateType::Find(iStartUp.name);
   if (lateType == nullptr || lateType->DeclaredBase() == nullptr) return {0, {}};
@@ -152,11 +162,14 @@ const VelCatalog& VelCatalogRegistry::Enter(const VelCatalogText& iText, std::st
   auto* catalog = new VelCatalog;
   catalog->name_ = iText.name;
   catalog->path_ = std::move(iPath);
+  const auto& source = sources.emplace_back(std::make_unique<VelDictionarySource>());
+  source->file = catalog->path_;
   for (const VelCatalogStartUp& startUp : iText.startUps) {
     const auto base = startUps.find(startUp.base);
     const VelFeatureLayout* baseLayout = base != startUps.end() ? base->second : nullptr;
     VelLateType& lateType = VelLateType::Of(startUp.name);
-    lateType.DeclareBase(baseLayout != nullptr ? &baseLayout->LateType() : &VelLateType::Of("VelFeature"), nullptr);
+    lateType.DeclareBase(baseLayout != nullptr ? &baseLayout->LateType() : &VelLateType::Of("VelFeature"),
+                         source.get());
     auto* layout = new VelFeatureLayout(startUp.name, baseLayout, lateType);
     lateType.SetLayout(*layout);
     for (const VelCatalogAttribute& attribute : startUp.attributes) {

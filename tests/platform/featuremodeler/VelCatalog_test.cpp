@@ -318,6 +318,27 @@ TEST_F(VelCatalogTest, StartUp_WhoseBaseADictionaryDeclares_IsRefused) {
   EXPECT_EQ(TakeErrors(), Texts());
 }
 
+TEST_F(VelCatalogTest, StartUp_FromWhichADictionaryDerivesFeatures_IsRefused) {
+  const std::string dictionary = folder_.Write("d.dictionary",
+                                               "velrsh-dictionary 1\nmodule CatalogTest\nframework F\nlibrary l.so\n"
+                                               "type VelFeature AboveA\ntype AboveA AboveB\n");
+  ASSERT_EQ(VelDictionary::LoadFile(dictionary), S_OK);
+  ExpectRefused("Above", "startup AboveSound\nstartup AboveB\n", "4: every feature derives from 'AboveB' already");
+  EXPECT_EQ(VelDictionary::Unload(dictionary), S_OK);
+}
+
+TEST_F(VelCatalogTest, Dictionary_ThatGivesAStartUpAnotherBase_IsRefused) {
+  ASSERT_NE(Load("kept.feat", Catalog("Kept", "startup KeptA\nstartup KeptB : KeptA\n")), nullptr);
+  const std::string head = "velrsh-dictionary 1\nmodule CatalogTest\nframework F\nlibrary l.so\n";
+  EXPECT_EQ(VelDictionary::LoadFile(folder_.Write("other", head + "type KeptB VelFeature\n")), E_FAIL);
+  ASSERT_EQ(diagnostics_.Entries().size(), 1U);
+  const std::string file = std::filesystem::canonical(folder_.Path("kept.feat")).string();
+  EXPECT_TRUE(diagnostics_.Entries().front().text.ends_with("5: the base of 'KeptB' is 'KeptA' already by '" + file +
+                                                            "', found 'VelFeature'"))
+      << diagnostics_.Entries().front().text;
+  diagnostics_.Clear();
+}
+
 TEST_F(VelCatalogTest, FeatureOfALoadedStartUp_AnswersAsAFeature_EvenWhenItsNameWasUsedBefore) {
   const VelIContainer_var hContainer = VelIContainer::Create();
   const VelOsmSUHandler handler("AskedA", "", "asked.feat");
