@@ -210,8 +210,8 @@ void VelCallbackManager::DispatchToSubscribers(VelEventName iEvent, VelNotificat
   VelComponent* const component = iPublisher != nullptr ? iPublisher->GetComponent() : nullptr;
   const Occasion occasion{iEvent, ioNotification, iPublisher, component};
   if (component == nullptr) return DeliverToAll(occasion);
-  if (occasion.IsOver()) return;
-  const VelPin pin(*component);  // When it goes, the manager may go with what was built: nothing may follow.
+  if (occasion.IsOver()) return;  // A pin on a closed component would end it once more.
+  const VelPin pin(*component);   // When it goes, the manager may go with what was built: nothing may follow.
   DeliverToAll(occasion);
 }
 

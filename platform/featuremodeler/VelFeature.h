@@ -53,6 +53,9 @@ class VelFeature final : public VelComponent {
   void SetName(std::string_view iName);
   void SetOpen() noexcept { Open(); }
 
+  /// @return true once the values are gone. A removed feature can be read until what was built for it is destroyed.
+  bool IsEnded() const noexcept { return (derivedByte_ & endedBit) != 0; }
+
   bool IsValuated(unsigned iAttribute) const noexcept { return (derivedBits_ >> iAttribute & 1U) != 0; }
   VelFeatureSlot& Slot(unsigned iAttribute) noexcept { return Slots()[Layout().Attributes()[iAttribute].slot]; }
 

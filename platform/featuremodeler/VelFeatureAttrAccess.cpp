@@ -20,21 +20,25 @@ bool IsPosition(int iPosition, std::size_t iSize) noexcept {
 }  // namespace
 
 bool VelFeatureAttrAccess::TestAttrKey(const VelISpecAttrKey* iKey) {
-  return !IsClosed() && Feature().Layout().Find(iKey) != absent;
+  return !Feature().IsEnded() && Feature().Layout().Find(iKey) != absent;
 }
 
 bool VelFeatureAttrAccess::IsValuated(const VelISpecAttrKey* iKey) {
-  const unsigned attribute = IsClosed() ? absent : Feature().Layout().Find(iKey);
+  const unsigned attribute = Feature().Layout().Find(iKey);
   return attribute != absent && Feature().IsValuated(attribute);
 }
 
-unsigned VelFeatureAttrAccess::Find(const VelISpecAttrKey* iKey, VelSpecAttrKind iKind) noexcept {
-  if (iKey == nullptr || iKey->Kind() != iKind || IsClosed()) return absent;
+unsigned VelFeatureAttrAccess::FindToRead(const VelISpecAttrKey* iKey, VelSpecAttrKind iKind) noexcept {
+  if (iKey == nullptr || iKey->Kind() != iKind || Feature().IsEnded()) return absent;
   return Feature().Layout().Find(iKey);
 }
 
+unsigned VelFeatureAttrAccess::FindToWrite(const VelISpecAttrKey* iKey, VelSpecAttrKind iKind) noexcept {
+  return IsClosed() ? absent : FindToRead(iKey, iKind);
+}
+
 VelFeatureSlot* VelFeatureAttrAccess::FindValue(const VelISpecAttrKey* iKey, VelSpecAttrKind iKind) noexcept {
-  const unsigned attribute = Find(iKey, iKind);
+  const unsigned attribute = FindToRead(iKey, iKind);
   return attribute != absent && Feature().IsValuated(attribute) ? &Feature().Slot(attribute) : nullptr;
 }
 
@@ -50,7 +54,7 @@ HRESULT VelFeatureAttrAccess::Get(const VelISpecAttrKey* iKey, VelSpecAttrKind i
 template <class Value>
 HRESULT VelFeatureAttrAccess::Set(const VelISpecAttrKey* iKey, VelSpecAttrKind iKind, Value VelFeatureSlot::*iMember,
                                   Value iValue) {
-  const unsigned attribute = Find(iKey, iKind);
+  const unsigned attribute = FindToWrite(iKey, iKind);
   if (attribute == absent) return E_FAIL;
   Feature().Slot(attribute).*iMember = iValue;
   Feature().SetValuated(attribute);
@@ -97,7 +101,7 @@ HRESULT VelFeatureAttrAccess::GetText(const VelISpecAttrKey* iKey, VelUnicodeStr
 }
 
 HRESULT VelFeatureAttrAccess::SetText(const VelISpecAttrKey* iKey, const VelUnicodeString& iValue) {
-  const unsigned attribute = Find(iKey, VelSpecAttrKind::Text);
+  const unsigned attribute = FindToWrite(iKey, VelSpecAttrKind::Text);
   if (attribute == absent) return E_FAIL;
   VelInternedText* const text = VelInternedText::Hold(iValue.View());
   Feature().ClearValue(attribute);
@@ -109,7 +113,7 @@ HRESULT VelFeatureAttrAccess::SetText(const VelISpecAttrKey* iKey, const VelUnic
 HRESULT VelFeatureAttrAccess::GetSize(const VelISpecAttrKey* iKey, int& oSize) {
   const bool isReals = iKey != nullptr && iKey->Kind() == VelSpecAttrKind::Reals;
   const VelSpecAttrKind kind = isReals ? VelSpecAttrKind::Reals : VelSpecAttrKind::Components;
-  if (Find(iKey, kind) == absent) return E_FAIL;
+  if (FindToRead(iKey, kind) == absent) return E_FAIL;
   const VelFeatureSlot* slot = FindValue(iKey, kind);
   if (slot == nullptr) {
     oSize = 0;
@@ -128,7 +132,7 @@ HRESULT VelFeatureAttrAccess::GetRealAt(const VelISpecAttrKey* iKey, int iPositi
 }
 
 HRESULT VelFeatureAttrAccess::SetReals(const VelISpecAttrKey* iKey, const double* iValues, int iCount) {
-  const unsigned attribute = Find(iKey, VelSpecAttrKind::Reals);
+  const unsigned attribute = FindToWrite(iKey, VelSpecAttrKind::Reals);
   if (attribute == absent) return E_FAIL;
   const unsigned capacity = Feature().Layout().Attributes()[attribute].capacity;
   if (iCount < 0 || static_cast<unsigned>(iCount) > capacity || (iCount > 0 && iValues == nullptr)) return E_INVALIDARG;
@@ -153,7 +157,7 @@ HRESULT VelFeatureAttrAccess::GetReference(const VelISpecAttrKey* iKey, VelBaseU
 }
 
 HRESULT VelFeatureAttrAccess::SetReference(const VelISpecAttrKey* iKey, VelBaseUnknown* iFeature) {
-  const unsigned attribute = Find(iKey, VelSpecAttrKind::Reference);
+  const unsigned attribute = FindToWrite(iKey, VelSpecAttrKind::Reference);
   if (attribute == absent) return E_FAIL;
   VelFeature* target = VelFeature::From(iFeature);
   if (target == nullptr || target->State() == VelComponentState::Closed) return E_INVALIDARG;
@@ -164,7 +168,7 @@ HRESULT VelFeatureAttrAccess::SetReference(const VelISpecAttrKey* iKey, VelBaseU
 }
 
 HRESULT VelFeatureAttrAccess::ResetReference(const VelISpecAttrKey* iKey) {
-  const unsigned attribute = Find(iKey, VelSpecAttrKind::Reference);
+  const unsigned attribute = FindToWrite(iKey, VelSpecAttrKind::Reference);
   if (attribute == absent) return E_FAIL;
   if (!Feature().IsValuated(attribute)) return S_FALSE;
   Feature().ClearValue(attribute);
@@ -172,14 +176,14 @@ HRESULT VelFeatureAttrAccess::ResetReference(const VelISpecAttrKey* iKey) {
 }
 
 HRESULT VelFeatureAttrAccess::AppendComponent(const VelISpecAttrKey* iKey, VelBaseUnknown* iFeature) {
-  const unsigned attribute = Find(iKey, VelSpecAttrKind::Components);
+  const unsigned attribute = FindToWrite(iKey, VelSpecAttrKind::Components);
   if (attribute == absent) return E_FAIL;
   VelFeature* component = VelFeature::From(iFeature);
   return component != nullptr ? Feature().Append(attribute, *component) : E_INVALIDARG;
 }
 
 HRESULT VelFeatureAttrAccess::RemoveComponent(const VelISpecAttrKey* iKey, VelBaseUnknown* iFeature) {
-  const unsigned attribute = Find(iKey, VelSpecAttrKind::Components);
+  const unsigned attribute = FindToWrite(iKey, VelSpecAttrKind::Components);
   if (attribute == absent) return E_FAIL;
   VelFeature* component = VelFeature::From(iFeature);
   return component != nullptr ? Feature().TakeOut(attribute, *component) : E_INVALIDARG;
@@ -196,10 +200,10 @@ HRESULT VelFeatureAttrAccess::GetComponentAt(const VelISpecAttrKey* iKey, int iP
 }
 
 HRESULT VelFeatureAttrAccess::EmptyComponents(const VelISpecAttrKey* iKey) {
-  if (Find(iKey, VelSpecAttrKind::Components) == absent) return E_FAIL;
+  if (FindToWrite(iKey, VelSpecAttrKind::Components) == absent) return E_FAIL;
   if (FindValue(iKey, VelSpecAttrKind::Components) == nullptr) return S_FALSE;
   // The end of an element may change the list, and may end this very feature: each is looked up anew.
-  while (const VelFeatureSlot* slot = FindValue(iKey, VelSpecAttrKind::Components)) {
+  while (const VelFeatureSlot* slot = IsClosed() ? nullptr : FindValue(iKey, VelSpecAttrKind::Components)) {
     VelFeature& element = *slot->components->front();
     const LifeCycleObject_var hLife(static_cast<VelBaseUnknown*>(&element));
     const HRESULT removed = hLife ? hLife->remove() : element.Remove();
@@ -221,7 +225,7 @@ HRESULT VelFeatureAttrAccess::GetDocument(const VelISpecAttrKey* iKey, VelBaseUn
 }
 
 HRESULT VelFeatureAttrAccess::SetDocument(const VelISpecAttrKey* iKey, VelBaseUnknown* iDocument) {
-  const unsigned attribute = Find(iKey, VelSpecAttrKind::Document);
+  const unsigned attribute = FindToWrite(iKey, VelSpecAttrKind::Document);
   if (attribute == absent) return E_FAIL;
   if (iDocument != nullptr) iDocument->AddRef();
   Feature().ClearValue(attribute);

@@ -42,8 +42,11 @@ class VelFeatureAttrAccess final : public VelPooledExtension<VelISpecAttrAccess>
  private:
   VelFeature& Feature() noexcept { return static_cast<VelFeature&>(*GetComponent()); }
 
-  /// @return the position of a key's attribute when the feature is open and has one of that kind, else absent
-  unsigned Find(const VelISpecAttrKey* iKey, VelSpecAttrKind iKind) noexcept;
+  /// @return the position of a key's attribute when the feature has one of that kind and can be read, else absent
+  unsigned FindToRead(const VelISpecAttrKey* iKey, VelSpecAttrKind iKind) noexcept;
+
+  /// @return as FindToRead, and absent when the feature is removed
+  unsigned FindToWrite(const VelISpecAttrKey* iKey, VelSpecAttrKind iKind) noexcept;
 
   /// @return the slot of a valuated attribute of that kind, null when there is none
   VelFeatureSlot* FindValue(const VelISpecAttrKey* iKey, VelSpecAttrKind iKind) noexcept;

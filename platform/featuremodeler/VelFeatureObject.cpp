@@ -9,18 +9,18 @@
 HRESULT VelFeatureObject::GetFather(VelISpecObject** oFather) {
   if (oFather == nullptr) return E_INVALIDARG;
   *oFather = nullptr;
-  if (IsClosed() || Feature().Father() == nullptr) return E_FAIL;
+  if (Feature().IsEnded() || Feature().Father() == nullptr) return E_FAIL;
   return Feature().Father()->Query(oFather);
 }
 
 HRESULT VelFeatureObject::GetType(VelString& oType) {
-  if (IsClosed()) return E_FAIL;
+  if (Feature().IsEnded()) return E_FAIL;
   oType = VelString(std::string_view(Feature().Layout().Name()));
   return S_OK;
 }
 
 HRESULT VelFeatureObject::GetName(VelUnicodeString& oName) {
-  if (IsClosed()) return E_FAIL;
+  if (Feature().IsEnded()) return E_FAIL;
   oName = VelUnicodeString(Feature().Name());
   return S_OK;
 }
@@ -34,7 +34,7 @@ HRESULT VelFeatureObject::SetName(const VelUnicodeString& iName) {
 HRESULT VelFeatureObject::GetContainer(VelIContainer** oContainer) {
   if (oContainer == nullptr) return E_INVALIDARG;
   *oContainer = nullptr;
-  VelContainer* container = IsClosed() ? nullptr : Feature().Container();
+  VelContainer* container = Feature().IsEnded() ? nullptr : Feature().Container();
   if (container == nullptr || FAILED(container->Query(oContainer))) return E_FAIL;
   return S_OK;
 }
@@ -59,7 +59,7 @@ HRESULT VelFeatureObject::InstanciateForCopy(const VelUnicodeString& iName, VelI
 
 HRESULT VelFeatureObject::ListPointingOwners(const VelInterfaceId& iOwnerInterface,
                                              VelListPtrVelBaseUnknown& ioOwners) {
-  if (IsClosed()) return E_FAIL;
+  if (Feature().IsEnded()) return E_FAIL;
   for (VelFeature* owner : VelFeatureReference::OwnersOf(Feature())) {
     if (owner->State() == VelComponentState::Closed || !owner->OffersInterface(iOwnerInterface)) continue;
     owner->AddRef();

@@ -19,7 +19,8 @@ VEL_PLATFORM_API extern const VelInterfaceId IID_VelISpecAttrAccess;
 ///
 /// Every operation that returns a code answers E_FAIL, with nothing read or written and every out argument untouched,
 /// when the key is null, is not one of the feature's (TestAttrKey) or is of another kind than the operation's, when the
-/// feature is removed, and, for a read, when the attribute is not valuated. Nothing else fails unless it says so.
+/// feature is removed, and, for a read, when the attribute is not valuated. Nothing else fails unless it says so. A
+/// removed feature can still be read until what was built for it is destroyed.
 ///
 /// Implemented by: the feature modeler, for every feature.
 /// Thread: the application thread. Re-entrancy: none; the operations call nobody but the document hooks.

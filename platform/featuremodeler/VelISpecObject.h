@@ -18,9 +18,9 @@ VEL_PLATFORM_API extern const VelInterfaceId IID_VelISpecObject;
 
 /// A feature, or a start-up from which features are instantiated.
 ///
-/// Every operation answers E_FAIL, with out arguments null or untouched, when the feature is removed.
-/// Implemented by: the feature modeler, for every feature and start-up.
-/// Thread: the application thread. Re-entrancy: none.
+/// Every operation answers E_FAIL, with out arguments null or untouched, when the feature is removed; those that only
+/// read go on until what was built for it is destroyed. Implemented by: the feature modeler, for every feature and
+/// start-up. Thread: the application thread. Re-entrancy: none.
 class VEL_PLATFORM_API VelISpecObject : public VelBaseUnknown {
  public:
   VEL_INTERFACE(VelISpecObject);

@@ -46,7 +46,7 @@ HRESULT VelComponent::QueryInterface(const VelInterfaceId& iInterface, VelBaseUn
 /// The part of a query that builds; a closed component builds nothing. The component is held meanwhile, since what is
 /// built may release it.
 HRESULT VelComponent::BuildAndQuery(const VelBinding& iRow, VelBaseUnknown** oInterface) noexcept {
-  if (state_ == VelComponentState::Closed) return E_NOINTERFACE;
+  if (state_ == VelComponentState::Closed && iRow.lifetime != VelLifetime::Always) return E_NOINTERFACE;
   const VelBaseUnknown_var keeper(static_cast<VelBaseUnknown*>(this));
   if (iRow.mechanism == VelMechanism::BOA) {
     *oInterface = VelBuilder::BuildDelegatingExtension(*this, iRow);

@@ -69,8 +69,9 @@ bool ClosesCycle(const VelLateType& iType, const VelLateType& iBase) {
   return false;
 }
 
-/// Takes a base back that a module declared, unless another module declares it too.
+/// Takes a base back that a module declared, unless another module or a catalog declares it too.
 void TakeBaseBack(VelLateType& ioType, const VelDictionarySource& iLeaving) {
+  if (ioType.Layout() != nullptr) return;  // The base of a start-up is its catalog's, which stays.
   for (const auto& source : AllSources()) {
     if (source.get() == &iLeaving) continue;
     for (const VelDictionaryBase& known : source->bases) {

@@ -14,7 +14,6 @@
 /// those that they covered come back. It adds itself when the platform's library is loaded. Not exported.
 class VelConfigurationParticipant final : public VelSessionParticipant {
  public:
-  VelSessionInputs Inputs() const noexcept override { return {.configurations = true}; }
   HRESULT OnSessionStart(const VelPlatformOptions& iOptions) override;
   void OnSessionEnd() override;
 

@@ -67,16 +67,6 @@ bool IsFolder(const std::string& iPath) {
   return SUCCEEDED(VelSystemFile::ListFolder(iPath, ".dictionary", names, cause));
 }
 
-/// @return true when somebody reads the input, or when none of it is given
-bool IsRead(const std::vector<std::string>& iInput, bool VelSessionInputs::*iKind, const char* iName) {
-  if (iInput.empty()) return true;
-  for (const VelSessionParticipant* participant : Participants()) {
-    if (participant->Inputs().*iKind) return true;
-  }
-  ReportError("No service of this process reads " + std::string(iName) + ", found '" + iInput.front() + "'");
-  return false;
-}
-
 }  // namespace
 
 VelPlatformSession::~VelPlatformSession() { static_cast<void>(End()); }
@@ -159,10 +149,6 @@ void VelPlatformSession::LoadDictionariesOfEnvironment() {
 }
 
 HRESULT VelPlatformSession::StartServices() {
-  if (!IsRead(options_.catalogs, &VelSessionInputs::catalogs, "catalogs") ||
-      !IsRead(options_.configurations, &VelSessionInputs::configurations, "configurations")) {
-    return E_FAIL;
-  }
   // A service that is added by another one's start takes part from the next session on.
   const std::size_t count = Participants().size();
   for (std::size_t i = 0; i < count; ++i) {

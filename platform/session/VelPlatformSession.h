@@ -26,7 +26,7 @@ class VEL_PLATFORM_API VelPlatformSession {
   /// of VEL_DICTIONARY_PATH (files and folders, separated by ':'; a faulty one is reported and left out), those of the
   /// options, then the services. What fails is reported on the trace channels, and nothing stays started.
   /// @return S_OK; E_UNEXPECTED when a session is running; E_FAIL when a file of the options cannot be found or is
-  ///         refused, or when no service reads an input that is given; else the code of the service that failed
+  ///         refused; else the code of the service that failed
   HRESULT Start(const VelPlatformOptions& iOptions = {});
 
   /// Ends the platform: the exit hooks run, the services end, the dictionaries are unloaded. Components that are alive

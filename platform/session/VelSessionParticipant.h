@@ -8,19 +8,10 @@
 #include "platform/base/VelPlatformApi.h"
 #include "platform/session/VelPlatformOptions.h"
 
-/// The inputs of a session that a service takes care of; an input that nobody takes care of cannot be given.
-struct VelSessionInputs {
-  bool catalogs = false;
-  bool configurations = false;
-};
-
 /// A service of the process that takes its share of the session's options. Participants start in the order in which
 /// they were added and end in the reverse order.
 class VEL_PLATFORM_API VelSessionParticipant {
  public:
-  /// @return what the service reads
-  virtual VelSessionInputs Inputs() const noexcept = 0;
-
   /// Starts the service. It reports what it refuses itself.
   /// @return S_OK; any failure ends the start of the session with that code
   virtual HRESULT OnSessionStart(const VelPlatformOptions& iOptions) = 0;

@@ -181,6 +181,9 @@ TEST_F(VelCallbackDispatchTest, Subscriber_ThatClosesItself_LivesUntilItsDeliver
   Subscribe(publisher, a, {changed});
   a->act = [&](VelEventName) {
     a.End();
+    VelCallbackManager& callbacks = publisher->callbacks;
+    EXPECT_EQ(callbacks.AddCallback(opened, a.implementation, VelTestSubscriber::Receivers()), E_FAIL);
+    EXPECT_EQ(callbacks.RemoveCallback(changed, a.implementation), S_FALSE);
     VelTestNotes().emplace_back("still running");
   };
   publisher->Emit(changed);

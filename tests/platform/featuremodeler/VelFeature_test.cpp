@@ -4,6 +4,7 @@
 #include "platform/featuremodeler/VelFeatureSlab.h"
 #include "platform/featuremodeler/VelSpecDocumentLinkHooks.h"
 #include "platform/objectmodeler/VelBaseUnknown_WR.h"
+#include "platform/objectmodeler/VelDictionary.h"
 #include "platform/objectmodeler/VelInstanceCounts.h"
 #include "platform/objectmodeler/VelObject.h"
 #include "tests/platform/featuremodeler/FeatureModelerTest.h"
@@ -236,6 +237,14 @@ TEST_F(VelFeatureTest, DeepAggregation_IsCopiedAndRemovedWithoutRecursion) {
   EXPECT_EQ(LifeCycleObject_var(hLast)->remove(), S_OK);
   EXPECT_EQ(hContainer_->CountFeatures(), 50001);
   EXPECT_EQ(hRoot->GetComponentState(), VelComponentState::Closed);
+}
+
+TEST_F(VelFeatureTest, BaseOfAStartUp_OutlivesADictionaryThatDeclaresItToo) {
+  const VelModuleType types[] = {{"VelRmaBoolean", "VelRmaParameter"}};
+  const VelModuleTable table{"VelTestSameBase", "FeatureModelerTests", types, {}, {}, {}};
+  ASSERT_EQ(VelDictionary::Declare(table), S_OK);
+  ASSERT_EQ(VelDictionary::Undeclare(table), S_OK);
+  EXPECT_TRUE(Access(Make("VelRmaBoolean"))->TestAttrKey(node_));
 }
 
 TEST_F(VelFeatureTest, ClosedContainer_TakesNothingIn) {

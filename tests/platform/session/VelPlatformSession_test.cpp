@@ -16,6 +16,7 @@
 
 #include "platform/base/VelCallOnExit.h"
 #include "platform/base/VelThreadBinding.h"
+#include "platform/featuremodeler/VelCatalog.h"
 #include "platform/objectmodeler/VelDictionary.h"
 #include "platform/objectmodeler/VelObject.h"
 #include "platform/trace/QrnSysTrace.h"
@@ -163,10 +164,18 @@ TEST_F(VelPlatformSessionTest, DictionaryLoadedBeforeTheSession_StaysAfterIt) {
   EXPECT_EQ(VelDictionary::Unload(file), S_OK);
 }
 
-TEST_F(VelPlatformSessionTest, Inputs_ThatNoServiceReads_AreRefused) {
+TEST_F(VelPlatformSessionTest, Catalogs_AreReadAtTheStart) {
+  std::ofstream(folder_ / "good.feat") << "velrsh-catalog 1\ncatalog SessionCatalog\nstartup SessionStartUp\n";
+  std::ofstream(folder_ / "bad.feat") << "velrsh-catalog 1\ncatalog SessionBadCatalog\nstartup A : B\n";
   VelPlatformSession session;
-  EXPECT_EQ(session.Start({.catalogs = {"a.feat"}}), E_FAIL);
-  EXPECT_EQ(Errors(), Texts{"No service of this process reads catalogs, found 'a.feat'"});
+  ASSERT_EQ(session.Start({.catalogs = {"good.feat"}, .searchFolders = {folder_.string()}}), S_OK);
+  EXPECT_NE(VelCatalog::Find("SessionCatalog"), nullptr);
+  EXPECT_EQ(session.End(), S_OK);
+  EXPECT_EQ(Errors(), Texts{});
+  EXPECT_EQ(session.Start({.catalogs = {"bad.feat"}, .searchFolders = {folder_.string()}}), E_FAIL);
+  EXPECT_FALSE(session.IsRunning());
+  EXPECT_EQ(Errors(), Texts{(folder_ / "bad.feat").string() + ":3: the base 'B' of 'A' is not declared"});
+  EXPECT_EQ(session.Start({.catalogs = {"missing.feat"}}), E_FAIL);
 }
 
 TEST_F(VelPlatformSessionTest, FolderOfWhichAFileWasLoadedBefore_LosesOnlyWhatTheSessionLoaded) {
@@ -206,7 +215,6 @@ class Participant final : public VelSessionParticipant {
  public:
   explicit Participant(std::string iName) : name_(std::move(iName)) { VelPlatformSession::AddParticipant(*this); }
 
-  VelSessionInputs Inputs() const noexcept override { return {}; }
   HRESULT OnSessionStart(const VelPlatformOptions&) override {
     if (notes != nullptr) notes->push_back("start " + name_);
     if (inStart) inStart();

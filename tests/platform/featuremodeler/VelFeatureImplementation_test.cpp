@@ -1,0 +1,211 @@
+// SPDX-FileCopyrightText: 2026 The VelRshModel authors
+// SPDX-License-Identifier: Apache-2.0
+/// @file VelFeatureImplementation_test.cpp Implementations on features: when they are built, and what they can still do
+/// at the end.
+#include "platform/featuremodeler/TIELifeCycleObject.h"
+#include "platform/featuremodeler/VelSpecLifeCycleObjectExt.h"
+#include "platform/objectmodeler/VelDictionary.h"
+#include "platform/objectmodeler/VelInstanceCounts.h"
+#include "platform/objectmodeler/VelPin.h"
+#include "tests/platform/featuremodeler/FeatureModelerTest.h"
+
+extern const VelInterfaceId IID_VelTestIProbe;
+const VelInterfaceId IID_VelTestIProbe{"VelTestIProbe", IID_VelBaseUnknown};
+
+class VelTestIProbe : public VelBaseUnknown {
+ public:
+  VEL_INTERFACE(VelTestIProbe);
+  virtual HRESULT RemoveYourself() = 0;
+
+ protected:
+  ~VelTestIProbe() = default;
+};
+
+template <class Implementation>
+class TIEVelTestIProbe final : public VelTie<VelTestIProbe> {
+ public:
+  using VelTie::VelTie;
+  HRESULT RemoveYourself() override {
+    return Forward<Implementation>([](Implementation& ioProbe) { return ioProbe.RemoveYourself(); });
+  }
+};
+
+namespace {
+
+std::vector<std::string>& Notes() {
+  static auto& notes = *new std::vector<std::string>;
+  return notes;
+}
+
+std::string TypeOrName(VelComponent& ioComponent) {
+  const VelISpecObject_var hObject(&ioComponent);
+  VelUnicodeString name;
+  return hObject && SUCCEEDED(hObject->GetName(name)) ? std::string(name.View()) : "closed";
+}
+
+}  // namespace
+
+class VelTestShader final : public VelImplementation {
+ public:
+  explicit VelTestShader(VelComponent& iFeature) : VelImplementation(iFeature) {
+    Notes().push_back("construct " + TypeOrName(iFeature));
+  }
+  ~VelTestShader() override {
+    int size = -1;
+    const VelISpecAttrAccess_var hAccess(GetComponent());
+    if (hAccess)
+      static_cast<void>(hAccess->GetSize(&VelISpecAttrKey::Of("Parameters", VelSpecAttrKind::Components), size));
+    Notes().push_back("shader destroyed with " + std::to_string(size));
+  }
+  const VelMetaClass& GetMetaObject() const noexcept override { return MetaObject(); }
+  static const VelMetaClass& MetaObject() noexcept;
+
+  HRESULT RemoveYourself() { return LifeCycleObject_var(GetComponent())->remove(); }
+  void OnComponentStateChange(VelComponentState, VelComponentState) override { Notes().emplace_back("shader closed"); }
+};
+
+class VelTestParameter final : public VelSpecLifeCycleObjectExt {
+ public:
+  explicit VelTestParameter(VelComponent& iFeature) : VelSpecLifeCycleObjectExt(iFeature) {
+    Notes().push_back("construct " + TypeOrName(iFeature));
+  }
+  ~VelTestParameter() override {
+    // What a destructor needs is still there: the name, the attributes, the connection.
+    VelUnicodeString text("unreadable");
+    const VelISpecAttrAccess_var hAccess(GetComponent());
+    if (hAccess) static_cast<void>(hAccess->GetText(&VelISpecAttrKey::Of("Name", VelSpecAttrKind::Text), text));
+    Notes().push_back("parameter destroyed, " + TypeOrName(*GetComponent()) + ", " + std::string(text.View()));
+  }
+  const VelMetaClass& GetMetaObject() const noexcept override { return MetaObject(); }
+  static const VelMetaClass& MetaObject() noexcept;
+
+  HRESULT RemoveYourself() {
+    const HRESULT removed = VelSpecLifeCycleObjectExt::remove();
+    Notes().emplace_back("still running");
+    return removed;
+  }
+  HRESULT remove() {  // NOLINT(readability-identifier-naming): the name of the system
+    Notes().emplace_back("parameter hears remove");
+    return VelSpecLifeCycleObjectExt::remove();
+  }
+  void OnComponentStateChange(VelComponentState, VelComponentState) override {
+    Notes().emplace_back("parameter closed");
+  }
+};
+
+#define VEL_GRID_FILE "tests/platform/featuremodeler/fixtures/VelTestFeatureClasses.def"
+#include "platform/objectmodeler/VelBindingGrid.inl"
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class VelFeatureImplementationTest : public FeatureModelerTest {
+ protected:
+  void SetUp() override {
+    FeatureModelerTest::SetUp();
+    ASSERT_EQ(VelDictionary::Declare(velGridTable), S_OK);
+    Notes().clear();
+  }
+  void TearDown() override {
+    FeatureModelerTest::TearDown();
+    EXPECT_EQ(VelDictionary::Undeclare(velGridTable), S_OK);
+  }
+
+  static VelVar<VelTestIProbe> Probe(const VelISpecObject_var& iFeature) { return VelVar<VelTestIProbe>(iFeature); }
+};
+
+TEST_F(VelFeatureImplementationTest, UntouchedFeature_HasBuiltNothing) {
+  const VelISpecObject_var hScalar = Make("VelRmaScalar");
+  EXPECT_TRUE(hScalar->GetComponent()->OffersInterface(IID_VelTestIProbe)) << "through the base start-up";
+  EXPECT_TRUE(hScalar->GetComponent()->OffersInterface(IID_VelISpecAttrAccess));
+  EXPECT_TRUE(Access(hScalar)->TestAttrKey(node_));
+  EXPECT_EQ(VelInstanceCounts::Now().implementations, 0);
+  EXPECT_EQ(VelInstanceCounts::Now().liveParts, 0);
+}
+
+TEST_F(VelFeatureImplementationTest, FirstQuery_BuildsTheFathersFirst) {
+  const VelISpecObject_var hRoot = Make("VelRmaShader", "root");
+  const VelISpecObject_var hShader = Make("VelRmaShader", "shader");
+  const VelISpecObject_var hScalar = Make("VelRmaScalar", "scalar");
+  ASSERT_EQ(Access(hRoot)->AppendComponent(nodes_, hShader.Get()), S_OK);
+  ASSERT_EQ(Access(hShader)->AppendComponent(parameters_, hScalar.Get()), S_OK);
+  EXPECT_EQ(Notes(), Texts{}) << "attributes and structure build nothing";
+  EXPECT_TRUE(Probe(hScalar));
+  EXPECT_EQ(Notes(), (Texts{"construct root", "construct shader", "construct scalar"}));
+}
+
+TEST_F(VelFeatureImplementationTest, BuiltFeature_ThatGetsAFather_IsHeardByItFromThenOn) {
+  const VelISpecObject_var hRoot = Make("VelRmaShader", "root");
+  const VelISpecObject_var hShader = Make("VelRmaShader", "shader");
+  const VelISpecObject_var hScalar = Make("VelRmaScalar", "scalar");
+  ASSERT_EQ(Access(hRoot)->AppendComponent(nodes_, hShader.Get()), S_OK);
+  ASSERT_TRUE(Probe(hScalar));
+  ASSERT_EQ(Access(hShader)->AppendComponent(parameters_, hScalar.Get()), S_OK);
+  EXPECT_EQ(Notes(), (Texts{"construct scalar", "construct root", "construct shader"}));
+}
+
+TEST_F(VelFeatureImplementationTest, Remove_AnnouncesFathersFirstAndDestroysAfterAllIsAnnounced) {
+  const VelISpecObject_var hShader = Make("VelRmaShader", "shader");
+  const VelISpecObject_var hScalar = Make("VelRmaScalar", "scalar");
+  ASSERT_EQ(Access(hShader)->AppendComponent(parameters_, hScalar.Get()), S_OK);
+  ASSERT_TRUE(Probe(hScalar));
+  ASSERT_EQ(Access(hScalar)->SetText(Key("Name", VelSpecAttrKind::Text), "the name"), S_OK);
+  Notes().clear();
+  const VelISpecAttrAccess_var hAccess = Access(hScalar);
+  EXPECT_EQ(LifeCycleObject_var(hShader)->remove(), S_OK);
+  EXPECT_FALSE(hAccess->TestAttrKey(node_)) << "afterwards there is nothing to read";
+  VelUnicodeString text;
+  EXPECT_EQ(hAccess->GetText(Key("Name", VelSpecAttrKind::Text), text), E_FAIL);
+  EXPECT_EQ(hAccess->SetText(Key("Name", VelSpecAttrKind::Text), text), E_FAIL);
+  EXPECT_EQ(Notes(), (Texts{"shader closed", "parameter closed", "shader destroyed with 1",
+                            "parameter destroyed, scalar, the name"}));
+  EXPECT_FALSE(Probe(hScalar)) << "nothing is built on a removed feature";
+  EXPECT_EQ(VelInstanceCounts::Now().implementations, 0);
+}
+
+TEST_F(VelFeatureImplementationTest, OwnLifeCycle_IsAskedBeforeTheModelers) {
+  const VelISpecObject_var hShader = Make("VelRmaShader", "shader");
+  const VelISpecObject_var hScalar = Make("VelRmaScalar", "scalar");
+  ASSERT_EQ(Access(hShader)->AppendComponent(parameters_, hScalar.Get()), S_OK);
+  ASSERT_TRUE(Probe(hScalar));
+  Notes().clear();
+  EXPECT_EQ(Access(hShader)->EmptyComponents(parameters_), S_OK);
+  EXPECT_EQ(Notes(), (Texts{"parameter hears remove", "parameter closed", "parameter destroyed, scalar, unreadable"}));
+  EXPECT_FALSE(Access(hShader)->IsValuated(parameters_));
+}
+
+TEST_F(VelFeatureImplementationTest, Remove_InsideACallOfItsOwn_EndsWhenTheCallUnwinds) {
+  const VelISpecObject_var hScalar = Make("VelRmaScalar", "scalar");
+  const VelVar<VelTestIProbe> hProbe = Probe(hScalar);
+  Notes().clear();
+  EXPECT_EQ(hProbe->RemoveYourself(), S_OK);
+  EXPECT_EQ(Notes(), (Texts{"parameter closed", "still running", "parameter destroyed, scalar, unreadable"}));
+  EXPECT_EQ(hProbe->RemoveYourself(), E_FAIL);
+}
+
+TEST_F(VelFeatureImplementationTest, Remove_OfAFatherInsideACallOfAChild_KeepsTheChildUntilItsCallUnwinds) {
+  const VelISpecObject_var hShader = Make("VelRmaShader", "shader");
+  const VelISpecObject_var hScalar = Make("VelRmaScalar", "scalar");
+  ASSERT_EQ(Access(hShader)->AppendComponent(parameters_, hScalar.Get()), S_OK);
+  ASSERT_TRUE(Probe(hScalar));
+  Notes().clear();
+  {
+    const VelPin pin(*hScalar->GetComponent());
+    EXPECT_EQ(Probe(hShader)->RemoveYourself(), S_OK);
+    EXPECT_EQ(Notes(), (Texts{"shader closed", "parameter closed", "shader destroyed with 1"}));
+  }
+  EXPECT_EQ(Notes().back(), "parameter destroyed, scalar, unreadable");
+  EXPECT_EQ(hContainer_->CountFeatures(), 0);
+}
+
+TEST_F(VelFeatureImplementationTest, ClosingTheContainer_EndsWhatIsBuilt) {
+  const VelISpecObject_var hShader = Make("VelRmaShader", "shader");
+  ASSERT_TRUE(Probe(hShader));
+  Notes().clear();
+  hContainer_ = nullptr;
+  EXPECT_EQ(Notes(), (Texts{"shader closed", "shader destroyed with 0"}));
+  EXPECT_EQ(hShader->GetComponentState(), VelComponentState::Closed);
+}
+
+}  // namespace
