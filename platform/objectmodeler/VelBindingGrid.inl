@@ -19,11 +19,12 @@
 //                                                 columns; lifetime is Component or Reference, mechanism TIE, BOA or no
 //     VEL_GRID_EXTEND(class, late type)           a further late type for which the class answers the same
 //
-// What a class of the grid has to offer: a constructor from VelComponent&, or a static Create(VelComponent&) that may decline
-// by null; `static const VelMetaClass& MetaObject() noexcept`, declared in the class and defined by the grid; an override of
-// GetMetaObject() that returns it. For a TIE cell the forwarder TIE<interface> and operations of the interface's names; for a
-// BOA cell the interface as base, through VelBoa, and lifetime Reference. All rows of a class have one lifetime. A class that
-// declined is asked again by the next query; one of lifetime Component that has been built is not asked any more.
+// What a class of the grid has to offer: a constructor from VelComponent&, or a static Create(VelComponent&) that may
+// decline by null; `static const VelMetaClass& MetaObject() noexcept`, declared in the class and defined by the grid;
+// an override of GetMetaObject() that returns it. For a TIE cell the forwarder TIE<interface> and operations of the
+// interface's names; for a BOA cell the interface as base, through VelBoa, and lifetime Reference. All rows of a class
+// have one lifetime. A class that declined is asked again by the next query; one of lifetime Component that has been
+// built is not asked any more.
 //
 // A module that is linked into the program rather than opened makes its table known from the same source:
 //

@@ -27,7 +27,7 @@ enum class VelMechanism {
 enum class VelLifetime {
   Component,  ///< From the first query until the component is closed; all its forwarders share it.
   Reference,  ///< As long as the one forwarder it was made for is referenced; each query makes its own.
-  Always,     ///< As Reference, and answered by a closed component too. For the platform's own classes that hold nothing.
+  Always,  ///< As Reference, and answered by a closed component too. For the platform's own classes that hold nothing.
 };
 
 /// Makes an implementation for a component, or declines by null: then the query fails with E_NOINTERFACE, and the next

@@ -27,11 +27,11 @@ TEST(VelLineReader, Text_IsReadLineByLineInWords) {
     std::string_view text;
     std::string expected;
   };
-  for (const Case& test : {Case{"empty", "", ""}, Case{"blank lines", "\n \t\n\r\n", ""},
-                           Case{"words", "a  bc\td\n", "1:a|bc|d| "}, Case{"no line end", "a\nb", "1:a| 2:b| "},
-                           Case{"CRLF", "a b\r\nc\r\n", "1:a|b| 2:c| "},
-                           Case{"comments", "# a\nb # c\nd#e f\n", "2:b| 3:d#e|f| "},
-                           Case{"form feed and vertical tab", "a\fb\vc", "1:a|b|c| "}}) {
+  for (const Case& test :
+       {Case{"empty", "", ""}, Case{"blank lines", "\n \t\n\r\n", ""}, Case{"words", "a  bc\td\n", "1:a|bc|d| "},
+        Case{"no line end", "a\nb", "1:a| 2:b| "}, Case{"CRLF", "a b\r\nc\r\n", "1:a|b| 2:c| "},
+        Case{"comments", "# a\nb # c\nd#e f\n", "2:b| 3:d#e|f| "},
+        Case{"form feed and vertical tab", "a\fb\vc", "1:a|b|c| "}}) {
     SCOPED_TRACE(test.name);
     EXPECT_EQ(LinesOf(test.text), test.expected);
   }
