@@ -19,8 +19,11 @@
 
 class FeatureModelerTest : public ::testing::Test {
  protected:
+  /// @return the folder of the shipped catalogs
+  static const char* CatalogFolder();
+
   void SetUp() override {
-    VelCatalog::SetFolders({VEL_TEST_CATALOGS});
+    VelCatalog::SetFolders({CatalogFolder()});
     hContainer_ = VelIContainer::Create();
     ASSERT_TRUE(hContainer_);
     ASSERT_EQ(VelICatalogManager_var(hContainer_)->LoadCatalog("VelRmaCatalog.feat"), S_OK);
