@@ -100,8 +100,9 @@ class VelFeature final : public VelComponent {
   void DropDocuments() noexcept;
   std::vector<VelFeature*> ListSubtree();
 
-  /// What derivedByte_ remembers.
-  enum : std::uint8_t { removedBit = 1, endedBit = 2 };
+  // What derivedByte_ remembers.
+  static constexpr std::uint8_t removedBit = 1;  ///< It is removed, not closed with its container.
+  static constexpr std::uint8_t endedBit = 2;    ///< Its values are gone.
 
   VelFeature* father_ = nullptr;
   VelInternedText* name_;

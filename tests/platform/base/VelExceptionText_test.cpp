@@ -13,7 +13,7 @@ namespace {
 template <class Thrown>
 std::string TextOf(const Thrown& iThrown) {
   try {
-    throw iThrown;
+    throw iThrown;  // NOLINT(cert-err60-cpp): any type has to be thrown here
   } catch (...) {
     return VelExceptionText("Thing");
   }
