@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/base/VelToken.h"
 #include "platform/base/system/VelSystemEnvironment.h"
 
 bool VelEnvironment::Get(const char* iName, VelString& oValue) {
@@ -16,3 +17,12 @@ bool VelEnvironment::Get(const char* iName, VelString& oValue) {
 }
 
 bool VelEnvironment::IsSet(const char* iName) { return VelSystemEnvironment::Get(iName).has_value(); }
+
+std::vector<std::string> VelEnvironment::GetPaths(const char* iName) {
+  std::vector<std::string> paths;
+  VelString text;
+  if (!Get(iName, text)) return paths;
+  VelToken token(text, ":");
+  for (VelString path = token.Next(); !path.IsEmpty(); path = token.Next()) paths.emplace_back(path.View());
+  return paths;
+}

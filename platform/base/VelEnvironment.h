@@ -4,6 +4,9 @@
 #ifndef PLATFORM_BASE_VELENVIRONMENT_H
 #define PLATFORM_BASE_VELENVIRONMENT_H
 
+#include <string>
+#include <vector>
+
 #include "platform/base/VelPlatformApi.h"
 #include "platform/base/VelString.h"
 
@@ -17,6 +20,10 @@ class VelEnvironment {
 
   /// @return true when the variable is set, be it to nothing
   VEL_PLATFORM_API static bool IsSet(const char* iName);
+
+  /// @return the paths that a variable names, separated by ':', in order; none when it is not set. Empty items are left
+  /// out.
+  VEL_PLATFORM_API static std::vector<std::string> GetPaths(const char* iName);
 };
 
 #endif  // PLATFORM_BASE_VELENVIRONMENT_H

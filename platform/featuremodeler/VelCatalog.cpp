@@ -10,7 +10,6 @@
 #include <utility>
 
 #include "platform/base/VelEnvironment.h"
-#include "platform/base/VelToken.h"
 #include "platform/base/system/VelSystemFile.h"
 #include "platform/featuremodeler/VelCatalogReader.h"
 #include "platform/featuremodeler/VelFeature.h"
@@ -64,12 +63,8 @@ std::string Locate(const std::string& iFile) {
   std::vector<std::string> candidates{iFile};
   if (!iFile.starts_with('/')) {
     for (const std::string& folder : VelCatalogRegistry::Get().folders) candidates.push_back(folder + '/' + iFile);
-    VelString paths;
-    if (VelEnvironment::Get("VEL_CATALOG_PATH", paths)) {
-      VelToken token(paths, ":");
-      for (VelString path = token.Next(); !path.IsEmpty(); path = token.Next()) {
-        candidates.push_back(std::string(path.View()) + '/' + iFile);
-      }
+    for (const std::string& folder : VelEnvironment::GetPaths("VEL_CATALOG_PATH")) {
+      candidates.push_back(folder + '/' + iFile);
     }
   }
   std::string path;

@@ -4,7 +4,6 @@
 #include "platform/session/VelConfigurationParticipant.h"
 
 #include "platform/base/VelEnvironment.h"
-#include "platform/base/VelToken.h"
 #include "platform/configuration/VelConfigurationLoader.h"
 #include "platform/configuration/VelConfigurationTables.h"
 #include "platform/session/VelPlatformSession.h"
@@ -36,11 +35,8 @@ HRESULT VelConfigurationParticipant::OnSessionStart(const VelPlatformOptions& iO
 void VelConfigurationParticipant::OnSessionEnd() { VelConfigurationTables::Instance().EndSession(); }
 
 void VelConfigurationParticipant::LoadEnvironment() {
-  VelString paths;
-  if (!VelEnvironment::Get("VEL_CONFIGURATION_PATH", paths)) return;
-  VelToken token(paths, ":");
-  for (VelString path = token.Next(); !path.IsEmpty(); path = token.Next()) {
-    if (SUCCEEDED(Load(std::string(path.View())))) continue;
+  for (const std::string& path : VelEnvironment::GetPaths("VEL_CONFIGURATION_PATH")) {
+    if (SUCCEEDED(Load(path))) continue;
     VelTraceHandle(channel).Warning("VEL_CONFIGURATION_PATH names '%s', which is left out", path);
   }
 }

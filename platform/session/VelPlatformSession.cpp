@@ -11,7 +11,6 @@
 #include "platform/base/VelEnvironment.h"
 #include "platform/base/VelExceptionText.h"
 #include "platform/base/VelThreadBinding.h"
-#include "platform/base/VelToken.h"
 #include "platform/base/system/VelSystemFile.h"
 #include "platform/objectmodeler/VelDictionary.h"
 #include "platform/objectmodeler/VelInstanceCounts.h"
@@ -139,11 +138,8 @@ bool VelPlatformSession::LoadDictionary(const std::string& iPath) {
 }
 
 void VelPlatformSession::LoadDictionariesOfEnvironment() {
-  VelString paths;
-  if (!VelEnvironment::Get("VEL_DICTIONARY_PATH", paths)) return;
-  VelToken token(paths, ":");
-  for (VelString path = token.Next(); !path.IsEmpty(); path = token.Next()) {
-    if (LoadDictionary(std::string(path.View()))) continue;
+  for (const std::string& path : VelEnvironment::GetPaths("VEL_DICTIONARY_PATH")) {
+    if (LoadDictionary(path)) continue;
     VelTraceHandle(channel).Warning("VEL_DICTIONARY_PATH names '%s', which is left out", path);
   }
 }

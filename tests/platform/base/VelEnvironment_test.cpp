@@ -49,4 +49,10 @@ TEST_F(VelEnvironmentTest, WithNoName_IsNotSet) {
   EXPECT_EQ(value, "before");
 }
 
+TEST_F(VelEnvironmentTest, Paths_AreSeparatedByColonsAndEmptyItemsLeftOut) {
+  EXPECT_EQ(VelEnvironment::GetPaths(variable), std::vector<std::string>{});
+  ASSERT_EQ(::setenv(variable, ":/a b::c:", 1), 0);
+  EXPECT_EQ(VelEnvironment::GetPaths(variable), (std::vector<std::string>{"/a b", "c"}));
+}
+
 }  // namespace
