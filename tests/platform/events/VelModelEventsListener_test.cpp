@@ -79,6 +79,21 @@ TEST_F(VelModelEventsListenerTest, Connection_OfRefusedObjects_SaysWhy) {
   EXPECT_EQ(listener.DeconnectFrom(ended.Get()), S_FALSE);
 }
 
+TEST_F(VelModelEventsListenerTest, ConnectTo_AClosedObjectThatACallStillKeeps_FindsNoInterface) {
+  const Model source = MakeModel("source");
+  NotingListener first("first");
+  NotingListener late("late");
+  EXPECT_EQ(first.ConnectTo(source.Get()), S_OK);
+  first.act = [&](VelNotification&) {
+    source.End();
+    EXPECT_EQ(late.ConnectTo(source.Get()), E_NOINTERFACE);
+    EXPECT_EQ(late.DeconnectFrom(source.Get()), S_FALSE);
+    EXPECT_EQ(VelExtIModelEvents::CountConnections(), 0);
+  };
+  EXPECT_EQ(Dispatch(source), S_OK);
+  EXPECT_EQ(TakeNotes(), Texts{"first"});
+}
+
 TEST_F(VelModelEventsListenerTest, Connections_EndWithTheListener) {
   const Model a = MakeModel("a");
   const Model b = MakeModel("b");

@@ -135,6 +135,26 @@ TEST_F(VelModelEventsTest, Operations_OfAClosedObject_Fail) {
   EXPECT_EQ(hEnded->DeconnectFrom(source.Get()), E_FAIL);
 }
 
+/// What is built of a closed object still answers queries while a call keeps it.
+TEST_F(VelModelEventsTest, ConnectTo_AClosedObjectThatACallStillKeeps_FindsNoInterface) {
+  const Model source = MakeModel("source");
+  const Model running = MakeModel("running");
+  const Model listener = MakeModel("listener");
+  Connect(running, source);
+  running->act = [&](VelNotification&) {
+    source.End();
+    running.End();
+    for (const Model& closed : {source, running}) {
+      EXPECT_EQ(EventsOf(listener)->ConnectTo(closed.Get()), E_NOINTERFACE);
+      EXPECT_EQ(EventsOf(listener)->ConnectTo(closed.implementation), E_NOINTERFACE);
+      EXPECT_EQ(EventsOf(listener)->DeconnectFrom(closed.Get()), S_FALSE);
+    }
+    EXPECT_EQ(VelExtIModelEvents::CountConnections(), 0);
+  };
+  EXPECT_EQ(EventsOf(source)->Dispatch(notification_), S_OK);
+  EXPECT_EQ(TakeNotes(), Texts{"running"});
+}
+
 TEST_F(VelModelEventsTest, GetDispatcher_IsTheObjectItself) {
   const Model model = MakeModel("model");
   VelBaseUnknown_var hDispatcher;
