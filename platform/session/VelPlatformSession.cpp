@@ -78,20 +78,22 @@ HRESULT VelPlatformSession::Start(const VelPlatformOptions& iOptions) {
   VelThreadBinding::Bind();
   VelTraceService::ApplyEnvironment();
   current = this;
+  changing_ = true;
   options_ = iOptions;
   HRESULT result = LoadDictionaries();
   if (SUCCEEDED(result)) result = StartServices();
   if (FAILED(result)) Stop();
+  changing_ = false;
   return result;
 }
 
 HRESULT VelPlatformSession::End() noexcept {
-  if (!IsRunning() || ending_) return S_FALSE;
-  ending_ = true;
+  if (!IsRunning() || changing_) return S_FALSE;
+  changing_ = true;
   VelPlatformTerminate();
   Stop();
   WarnOfLiveObjects();
-  ending_ = false;
+  changing_ = false;
   return S_OK;
 }
 

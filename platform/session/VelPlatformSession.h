@@ -31,7 +31,7 @@ class VEL_PLATFORM_API VelPlatformSession {
 
   /// Ends the platform: the exit hooks run, the services end, the dictionaries are unloaded. Components that are alive
   /// stay alive, as far as they are built: their number is a warning, since a host should have released them before.
-  /// @return S_OK; S_FALSE when this session is not running, or is ending already
+  /// @return S_OK; S_FALSE when this session is not running, or is still starting or ending already
   HRESULT End() noexcept;
 
   bool IsRunning() const noexcept { return current == this; }
@@ -56,7 +56,7 @@ class VEL_PLATFORM_API VelPlatformSession {
   static VelPlatformSession* current;
 
   VelPlatformOptions options_;
-  bool ending_ = false;
+  bool changing_ = false;                        ///< Whether it is starting or ending: no service may end it then.
   std::vector<std::string> loaded_;              ///< The dictionary files that this session loaded.
   std::vector<VelSessionParticipant*> started_;  ///< The services that this session started.
 };

@@ -347,6 +347,34 @@ TEST_F(VelPlatformSessionTest, HookThatEndsTheSession_ChangesNothing) {
   EXPECT_FALSE(session.IsRunning());
 }
 
+TEST_F(VelPlatformSessionTest, ServiceThatEndsTheSessionWhileItStarts_ChangesNothing) {
+  VelPlatformSession session;
+  HRESULT inner = S_OK;
+  First().inStart = [&] { inner = session.End(); };
+  EXPECT_EQ(session.Start(), S_OK);
+  EXPECT_EQ(inner, S_FALSE);
+  EXPECT_TRUE(session.IsRunning());
+  EXPECT_EQ(session.End(), S_OK);
+  First().inStart = nullptr;
+}
+
+TEST_F(VelPlatformSessionTest, ServiceThatEndsTheSessionWhoseStartFailed_ChangesNothing) {
+  VelPlatformSession session;
+  HRESULT inner = S_OK;
+  int ends = 0;
+  First().inEnd = [&] {
+    if (++ends == 1) inner = session.End();
+  };
+  Second().result = E_INVALIDARG;
+  EXPECT_EQ(session.Start(), E_INVALIDARG);
+  EXPECT_EQ(inner, S_FALSE);
+  EXPECT_EQ(ends, 1);
+  EXPECT_FALSE(session.IsRunning());
+  First().inEnd = nullptr;
+  Second().result = S_OK;
+  EXPECT_EQ(session.Start(), S_OK);
+}
+
 using VelPlatformSessionDeathTest = VelPlatformSessionTest;
 
 TEST_F(VelPlatformSessionDeathTest, ExitHooks_AtProcessExit_StillHaveTracesAndTheDictionary) {
