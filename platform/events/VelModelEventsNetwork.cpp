@@ -17,8 +17,10 @@ struct HashOfEnds {
   std::size_t operator()(const VelModelEventsConnection& iConnection) const noexcept {
     const std::hash<const void*> hash;
     const std::size_t source = hash(iConnection.source);
-    // One of the two listeners is null. The multiplication keeps (a, b) apart from (b, a).
-    return source * 31 + (hash(iConnection.extension) ^ hash(iConnection.listener));
+    // One of the two listeners is null. Pooled objects lie at equal distances: a small factor would let the sums of
+    // many pairs be the same, the more the more objects are connected crosswise.
+    constexpr std::size_t spread = 0x9E3779B97F4A7C15U;
+    return source * spread + (hash(iConnection.extension) ^ hash(iConnection.listener));
   }
 };
 
