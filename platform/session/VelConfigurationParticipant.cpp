@@ -4,6 +4,8 @@
 #include "platform/session/VelConfigurationParticipant.h"
 
 #include "platform/base/VelEnvironment.h"
+#include "platform/base/system/VelSystemFile.h"
+#include "platform/base/system/VelSystemLibrary.h"
 #include "platform/configuration/VelConfigurationLoader.h"
 #include "platform/configuration/VelConfigurationTables.h"
 #include "platform/session/VelPlatformSession.h"
@@ -22,9 +24,21 @@ bool AddParticipant() {
 
 HRESULT Load(const std::string& iPath) { return VelConfigurationLoader(VelConfigurationOwner::Session).Load(iPath); }
 
+/// Found from where this library lies, so that an installation can be moved.
+/// @return the folder of the installed configurations, empty when there is none, as in a build tree
+std::string InstalledFolder() {
+  std::string library;
+  std::string folder;
+  std::string cause;
+  if (FAILED(VelSystemFile::CanonicalPath(VelSystemLibrary::PathOf(&participantAdded), library, cause))) return {};
+  const std::string share = VelSystemFile::FolderOf(library) + "/" VEL_SHARE_FROM_LIBRARY;
+  return SUCCEEDED(VelSystemFile::CanonicalPath(share + "/configuration", folder, cause)) ? folder : std::string();
+}
+
 }  // namespace
 
 HRESULT VelConfigurationParticipant::OnSessionStart(const VelPlatformOptions& iOptions) {
+  LoadInstallation();
   LoadEnvironment();
   const HRESULT result = LoadOptions(iOptions.configurations);
   // A service that did not start is not ended either.
@@ -34,10 +48,16 @@ HRESULT VelConfigurationParticipant::OnSessionStart(const VelPlatformOptions& iO
 
 void VelConfigurationParticipant::OnSessionEnd() { VelConfigurationTables::Instance().EndSession(); }
 
+void VelConfigurationParticipant::LoadInstallation() {
+  const std::string folder = InstalledFolder();
+  if (folder.empty() || SUCCEEDED(Load(folder))) return;
+  VelTraceHandle(channel).Warning("The installed configurations in '%s' are not loaded, or not all of them", folder);
+}
+
 void VelConfigurationParticipant::LoadEnvironment() {
   for (const std::string& path : VelEnvironment::GetPaths("VEL_CONFIGURATION_PATH")) {
     if (SUCCEEDED(Load(path))) continue;
-    VelTraceHandle(channel).Warning("VEL_CONFIGURATION_PATH names '%s', which is left out", path);
+    VelTraceHandle(channel).Warning("VEL_CONFIGURATION_PATH names '%s', which is not loaded, or not as a whole", path);
   }
 }
 

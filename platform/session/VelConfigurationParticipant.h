@@ -9,15 +9,17 @@
 
 #include "platform/session/VelSessionParticipant.h"
 
-/// Loads what VEL_CONFIGURATION_PATH names (files and folders, separated by ':'; a faulty one is reported and left
-/// out), then what the options name, of which a faulty one ends the start. At the end of the session its values go, and
-/// those that they covered come back. It adds itself when the platform's library is loaded. Not exported.
+/// Loads what the installation holds, then what VEL_CONFIGURATION_PATH names (files and folders, separated by ':'),
+/// both of which are reported and left out where they are faulty, then what the options name, of which a faulty one
+/// ends the start. At the end of the session its values go, and those that they covered come back. It adds itself when
+/// the platform's library is loaded. Not exported.
 class VelConfigurationParticipant final : public VelSessionParticipant {
  public:
   HRESULT OnSessionStart(const VelPlatformOptions& iOptions) override;
   void OnSessionEnd() override;
 
  private:
+  static void LoadInstallation();
   static void LoadEnvironment();
   static HRESULT LoadOptions(const std::vector<std::string>& iConfigurations);
 };

@@ -13,10 +13,11 @@ struct VelPlatformOptions {
   /// Dictionary files, and folders whose ".dictionary" files are all loaded.
   std::vector<std::string> dictionaries{};
 
-  /// Feature catalogs.
+  /// Catalog files. docs/catalog.md describes them.
   std::vector<std::string> catalogs{};
 
-  /// Configuration files, a later one overriding key by key.
+  /// Configuration files, and folders whose ".toml" files are all loaded; a later one overrides key by key, and all of
+  /// them what the installation and the environment bring. docs/configuration.md describes them.
   std::vector<std::string> configurations{};
 
   /// Where relative paths are looked for, and the libraries that a dictionary names without a folder.

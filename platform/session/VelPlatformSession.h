@@ -24,7 +24,8 @@ class VEL_PLATFORM_API VelPlatformSession {
 
   /// Starts the platform: traces as the environment says (VEL_TRACE, VEL_TRACE_FILE, VEL_TRACE_JSON), the dictionaries
   /// of VEL_DICTIONARY_PATH (files and folders, separated by ':'; a faulty one is reported and left out), those of the
-  /// options, then the services. What fails is reported on the trace channels, and nothing stays started.
+  /// options, then the services, those of catalogs and configurations (installed ones, and VEL_CONFIGURATION_PATH)
+  /// among them. What fails is reported on the trace channels, and nothing stays started.
   /// @return S_OK; E_UNEXPECTED when a session is running; E_FAIL when a file of the options cannot be found or is
   ///         refused; else the code of the service that failed
   HRESULT Start(const VelPlatformOptions& iOptions = {});

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <string>
 
+#include "platform/base/system/VelSystemLibrary.h"
 #include "platform/configuration/VelRbaConfiguration.h"
 #include "platform/session/VelPlatformSession.h"
 #include "tests/platform/configuration/ConfigurationTest.h"
@@ -117,13 +118,22 @@ TEST_F(VelConfigurationParticipantTest, FaultyFileOfTheEnvironment_IsReportedAnd
   const FakeConfigurationReader reader;
   const std::string bad = folder_.Write("bad.toml", "fault 2 3\n");
   const std::string good = folder_.Write("good.toml", "C key good\n");
-  ::setenv("VEL_CONFIGURATION_PATH", (bad + ":/nowhere/at/all:" + good).c_str(), 1);
+  std::filesystem::create_directory(folder_.Path("mixed"));
+  folder_.Write("mixed/a.toml", "fault 4 5\n");
+  folder_.Write("mixed/b.toml", "C mixed good\n");
+  const std::string paths = bad + ":/nowhere/at/all:" + good + ':' + folder_.Path("mixed");
+  ::setenv("VEL_CONFIGURATION_PATH", paths.c_str(), 1);
   VelPlatformSession session;
   EXPECT_EQ(session.Start(), S_OK);
   EXPECT_EQ(Value("C", "key"), "good");
-  const Texts warnings = Take(VelTraceKind::Warning);
-  EXPECT_EQ(warnings, (Texts{"VelPlatformSession: VEL_CONFIGURATION_PATH names 'bad.toml', which is left out",
-                             "VelPlatformSession: VEL_CONFIGURATION_PATH names '/nowhere/at/all', which is left out"}));
+  EXPECT_EQ(Value("C", "mixed"), "good") << "the sound files of a folder are loaded";
+  const Texts warnings = TakeWarnings();
+  ASSERT_EQ(warnings.size(), 3U);
+  std::size_t index = 0;
+  for (const char* path : {"bad.toml", "/nowhere/at/all", "mixed"}) {
+    EXPECT_EQ(warnings[index++], std::string("VelPlatformSession: VEL_CONFIGURATION_PATH names '") + path +
+                                     "', which is not loaded, or not as a whole");
+  }
 }
 
 TEST_F(VelConfigurationParticipantTest, OptionsWithoutAReader_EndTheStart) {
@@ -132,6 +142,54 @@ TEST_F(VelConfigurationParticipantTest, OptionsWithoutAReader_EndTheStart) {
   EXPECT_EQ(session.Start({.configurations = {file}}), E_FAIL);
   EXPECT_EQ(TakeErrors(), Texts{"VelPlatformSession: The session does not start without its configuration 'a.toml'"});
   EXPECT_EQ(session.Start(), S_OK);
+}
+
+/// The installation lies where the library lies, so this program runs anew with a copy of it. The copy finds what the
+/// outer run wrote: a faulty file and a sound one.
+class VelConfigurationInstallationTest : public ConfigurationTest {
+ protected:
+  static bool IsInnerRun() { return std::getenv("VEL_TEST_INSTALLATION") != nullptr; }
+
+  void Install() const {
+    const std::filesystem::path library =
+        VelSystemLibrary::PathOf(reinterpret_cast<const void*>(&VelPlatformSession::AddParticipant));
+    const std::filesystem::path libraries = folder_.Path("prefix/inner/lib");
+    const std::filesystem::path share = (libraries / VEL_SHARE_FROM_LIBRARY / "configuration").lexically_normal();
+    std::filesystem::create_directories(libraries);
+    std::filesystem::create_directories(share);
+    std::filesystem::copy_file(library, libraries / library.filename());
+    folder_.Write((share / "bad.toml").string(), "fault 2 3\n");
+    folder_.Write((share / "good.toml").string(), "C installed yes\nC both installation\n");
+  }
+
+  /// @return what the program's inner run ends with, 0 for success
+  int RunInner() const {
+    const std::string name = ::testing::UnitTest::GetInstance()->current_test_info()->name();
+    const std::string program = std::filesystem::read_symlink("/proc/self/exe").string();
+    const std::string command = "VEL_TEST_INSTALLATION=1 LD_LIBRARY_PATH='" + folder_.Path("prefix/inner/lib") + "' '" +
+                                program + "' --gtest_brief=1 --gtest_filter='*." + name + "'";
+    return std::system(command.c_str());
+  }
+};
+
+TEST_F(VelConfigurationInstallationTest, Installation_IsLoadedBeforeWhatTheUserNames) {
+  if (!IsInnerRun()) {
+    Install();
+    EXPECT_EQ(RunInner(), 0);
+    return;
+  }
+  const FakeConfigurationReader reader;
+  ::setenv("VEL_CONFIGURATION_PATH", folder_.Write("own.toml", "C both environment\n").c_str(), 1);
+  VelPlatformSession session;
+  ASSERT_EQ(session.Start(), S_OK);
+  EXPECT_EQ(Value("C", "installed"), "yes");
+  EXPECT_EQ(Value("C", "both"), "environment");
+  const Texts warnings = TakeWarnings();
+  ASSERT_EQ(warnings.size(), 1U);
+  EXPECT_TRUE(warnings[0].starts_with("VelPlatformSession: The installed configurations in '/")) << warnings[0];
+  EXPECT_TRUE(warnings[0].ends_with("/share/velrsh/configuration' are not loaded, or not all of them")) << warnings[0];
+  EXPECT_EQ(session.End(), S_OK);
+  EXPECT_EQ(Value("C", "installed"), "(none)");
 }
 
 }  // namespace
