@@ -69,7 +69,8 @@ class VEL_RSH_INTERFACES_API VelIRshShader : public VelBaseUnknown {
 
   /// Makes a parameter and appends it. Names may repeat.
   /// @param[in] iStartUp one of the typed start-ups, for instance "VelRmaScalar"
-  /// @param[out] oParameter with one reference for the caller; null on failure
+  /// @param[out] oParameter with one reference for the caller; null on failure, unless it is only the name that could
+  ///             not be written
   /// @return S_OK; E_FAIL when oParameter is null, the shader is in no container, the start-up is unknown, or the name
   ///         cannot be written; E_NOINTERFACE when the start-up is none of a parameter. After the last two the new
   ///         feature stays in the list.

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The VelRshModel authors
+// SPDX-License-Identifier: Apache-2.0
+/// @file VelIAlias.h The display label of a shader or a parameter.
+#ifndef RENDERINGSHADER_INTERFACES_VELIALIAS_H
+#define RENDERINGSHADER_INTERFACES_VELIALIAS_H
+
+#include "RenderingShader/interfaces/VelRshInterfacesApi.h"
+#include "platform/base/HResult.h"
+#include "platform/base/VelUnicodeString.h"
+#include "platform/objectmodeler/VelBaseUnknown.h"
+#include "platform/objectmodeler/VelVar.h"
+
+VEL_RSH_INTERFACES_API extern const VelInterfaceId IID_VelIAlias;
+
+/// The label that people see. It is not persistent: without a label of its own, an object computes one.
+///
+/// Implemented by: VelRshShaderFeature and every parameter.
+/// Thread: the application thread. Re-entrancy: none.
+class VEL_RSH_INTERFACES_API VelIAlias : public VelBaseUnknown {
+ public:
+  VEL_INTERFACE(VelIAlias);
+
+  /// @param[in] iAlias an empty label is computed again when it is read
+  /// @return S_OK; E_FAIL when the object is closed
+  virtual HRESULT SetAlias(const VelUnicodeString& iAlias) = 0;
+
+  /// @return the label; empty when there is none, and when the object is closed
+  virtual VelUnicodeString GetAlias() = 0;
+
+ protected:
+  ~VelIAlias() = default;
+};
+
+using VelIAlias_var = VelVar<VelIAlias>;
+
+#endif  // RENDERINGSHADER_INTERFACES_VELIALIAS_H
