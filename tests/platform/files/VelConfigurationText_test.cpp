@@ -159,6 +159,27 @@ TEST(VelConfigurationTextTest, KeyOfFortyThousandParts_IsRefusedAndDoesNotOverfl
   EXPECT_EQ(Read("[" + key + "a]\n"), "1:65: a key has more than 32 parts");
 }
 
+/// The counting walk knows the line feed alone. Were anything else the end of a comment or of a text for the parser,
+/// what stands behind it would be parsed uncounted.
+TEST(VelConfigurationTextTest, NothingButALineFeed_EndsACommentOrAText) {
+  std::string key;
+  for (int i = 0; i < 40000; ++i) key += "a.";
+  struct Separator {
+    const char* name;
+    std::string text;
+    bool isLegal;
+  };
+  for (const Separator& test : {Separator{"carriage return", "\r", false}, Separator{"vertical tab", "\v", false},
+                                Separator{"form feed", "\f", false}, Separator{"NUL", std::string(1, '\0'), false},
+                                Separator{"next line", "\u0085", true}, Separator{"line separator", "\u2028", true},
+                                Separator{"paragraph separator", "\u2029", true}}) {
+    SCOPED_TRACE(test.name);
+    const std::string inComment = Read("# c" + test.text + key + "a = 1\n");
+    EXPECT_TRUE(test.isLegal ? inComment.empty() : inComment.starts_with("1:")) << inComment;
+    EXPECT_TRUE(Read("[A]\nk = 'v" + test.text + key + "a = 1\n").starts_with("2:")) << "it is not closed";
+  }
+}
+
 /// Each value of a table repeats the table's name, here of 100,000 bytes.
 TEST(VelConfigurationTextTest, NamesThatWouldBeRepeatedBeyondMeasure_AreRefused) {
   const std::string name(100000, 'n');
