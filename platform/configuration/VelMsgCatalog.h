@@ -13,13 +13,15 @@
 
 /// Messages by catalog and key, each in any number of languages. A language is named like a locale, "de" or "de_AT";
 /// what follows a '.' or '@' ("de_AT.UTF-8") is left out, '-' means '_', and case counts. "C", "POSIX" and the empty
-/// name mean English, "en".
+/// name mean English, "en". Messages stay until Clear, however many sessions begin and end.
 ///
 /// What cannot be loaded is an error on the trace channel "VelMsgCatalog". Thread: the application thread.
 class VEL_PLATFORM_API VelMsgCatalog {
  public:
   /// Finds a message in the language, else in the language without its region, else in English. The first that has it
   /// answers, be it with an empty text.
+  /// @param[in] iCatalog the catalog's name, such as "VelRshPanel"; case counts
+  /// @param[in] iKey the message's key in all languages, its parts joined by '.'; case counts
   /// @return the message as it was written, empty when there is none
   static VelUnicodeString BuildMessage(const VelString& iCatalog, const VelString& iKey);
 
