@@ -28,10 +28,18 @@ VelContainer::VelContainer() : VelObject("VelContainer", MetaObject()) {}
 
 VelContainer::~VelContainer() {
   EndLife();
-  VelFeature::CloseAll(Features(), false);
   for (auto& [bytes, sizeClass] : sizes_) {
     for (VelFeatureSlab* slab : sizeClass.slabs) slab->Abandon();
   }
+}
+
+void VelContainer::OnEnded() noexcept {
+  std::vector<VelFeature*> fathersFirst;
+  for (VelFeature* feature : Features()) {
+    const VelFeature* father = feature->Father();
+    if (father == nullptr || father->State() == VelComponentState::Closed) feature->ListSubtree(fathersFirst);
+  }
+  VelFeature::CloseAll(fathersFirst, false);
 }
 
 void* VelContainer::Take(const VelFeatureLayout& iLayout) {

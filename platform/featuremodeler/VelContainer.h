@@ -40,6 +40,7 @@ class VelContainer final : public VelObject {
  private:
   VelContainer();
   ~VelContainer() override;
+  void OnEnded() noexcept override;
 
   /// The slabs of one block size; the last of those with room is taken from first.
   struct SizeClass {

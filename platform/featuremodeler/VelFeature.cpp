@@ -153,18 +153,18 @@ VelFeature* VelFeature::CopyInto(VelContainer& ioContainer, std::string_view iNa
   return pairs.front().copy;
 }
 
-std::vector<VelFeature*> VelFeature::ListSubtree() {
-  std::vector<VelFeature*> subtree{this};
-  for (std::size_t next = 0; next < subtree.size(); ++next) {
-    VelFeature& feature = *subtree[next];
+void VelFeature::ListSubtree(std::vector<VelFeature*>& ioFeatures) {
+  std::size_t next = ioFeatures.size();
+  ioFeatures.push_back(this);
+  for (; next < ioFeatures.size(); ++next) {
+    VelFeature& feature = *ioFeatures[next];
     const auto& attributes = feature.Layout().Attributes();
     for (unsigned i = 0; i < attributes.size(); ++i) {
       if (attributes[i].key->Kind() != VelSpecAttrKind::Components || !feature.IsValuated(i)) continue;
       const auto& components = *feature.Slot(i).components;
-      subtree.insert(subtree.end(), components.begin(), components.end());
+      ioFeatures.insert(ioFeatures.end(), components.begin(), components.end());
     }
   }
-  return subtree;
 }
 
 void VelFeature::LeaveFather() noexcept {
@@ -178,7 +178,8 @@ void VelFeature::LeaveFather() noexcept {
 
 HRESULT VelFeature::Remove() {
   if (State() == VelComponentState::Closed) return S_FALSE;
-  const std::vector<VelFeature*> subtree = ListSubtree();
+  std::vector<VelFeature*> subtree;
+  ListSubtree(subtree);
   LeaveFather();
   CloseAll(subtree, true);
   return S_OK;
@@ -188,30 +189,36 @@ HRESULT VelFeature::Remove() {
 /// attribute goes, so that what is destroyed can still read. The pins hold the ends back until then; a running call may
 /// hold some of them back further.
 void VelFeature::CloseAll(const std::vector<VelFeature*>& iFeatures, bool iRemoved) noexcept {
-  std::vector<VelFeature*> pinned;
-  for (VelFeature* feature : iFeatures) {
-    feature->AddRef();
-    if (iRemoved) feature->derivedByte_ |= removedBit;
-    if (VelComponentAccess::LiveOrNull(*feature) == nullptr) continue;
-    VelPin::Take(*feature);
-    pinned.push_back(feature);
+  std::vector<bool> isPinned(iFeatures.size(), false);
+  const auto pinWhatIsBuilt = [&](std::size_t iPosition) {
+    VelFeature& feature = *iFeatures[iPosition];
+    if (isPinned[iPosition] || VelComponentAccess::LiveOrNull(feature) == nullptr) return;
+    VelPin::Take(feature);
+    isPinned[iPosition] = true;
+  };
+  for (std::size_t i = 0; i < iFeatures.size(); ++i) {
+    iFeatures[i]->AddRef();
+    if (iRemoved) iFeatures[i]->derivedByte_ |= removedBit;
+    pinWhatIsBuilt(i);
   }
-  for (VelFeature* feature : iFeatures) {
-    feature->AnnounceClosed();
-    VelFeatureReference::EndAllTo(*feature);
+  for (std::size_t i = 0; i < iFeatures.size(); ++i) {
+    // Whoever was told before may have asked this one, still open, for an interface.
+    pinWhatIsBuilt(i);
+    iFeatures[i]->AnnounceClosed();
+    VelFeatureReference::EndAllTo(*iFeatures[i]);
   }
-  for (VelFeature* feature : pinned) {
-    VelLivePart& live = VelComponentAccess::Live(*feature);
+  for (std::size_t i = 0; i < iFeatures.size(); ++i) {
+    if (!isPinned[i]) continue;
+    VelLivePart& live = VelComponentAccess::Live(*iFeatures[i]);
     if (live.pins == 1) VelComponentAccess::DestroyImplementations(live);
   }
-  auto nextPinned = pinned.begin();
-  for (VelFeature* feature : iFeatures) {
-    if (nextPinned != pinned.end() && *nextPinned == feature) {
-      VelPin::Give(**nextPinned++);
+  for (std::size_t i = 0; i < iFeatures.size(); ++i) {
+    if (isPinned[i]) {
+      VelPin::Give(*iFeatures[i]);
     } else {
-      feature->OnEnded();
+      iFeatures[i]->OnEnded();
     }
-    feature->Release();
+    iFeatures[i]->Release();
   }
 }
 

@@ -83,8 +83,11 @@ class VelFeature final : public VelComponent {
   /// Removes the feature and what it aggregates, as LifeCycleObject::remove.
   HRESULT Remove();
 
-  /// Closes features together, fathers before what they aggregate.
-  /// @param[in] iFeatures features of one container, all open
+  /// Appends the feature and what it aggregates, fathers first.
+  void ListSubtree(std::vector<VelFeature*>& ioFeatures);
+
+  /// Closes features together, in the order given.
+  /// @param[in] iFeatures features of one container, all open, fathers before what they aggregate
   /// @param[in] iRemoved whether they are removed, so that the document hooks are called, or their container is closed
   static void CloseAll(const std::vector<VelFeature*>& iFeatures, bool iRemoved) noexcept;
 
@@ -98,7 +101,6 @@ class VelFeature final : public VelComponent {
   void CopyValuesTo(VelFeature& ioCopy) const;
   void LeaveFather() noexcept;
   void DropDocuments() noexcept;
-  std::vector<VelFeature*> ListSubtree();
 
   // What derivedByte_ remembers.
   static constexpr std::uint8_t removedBit = 1;  ///< It is removed, not closed with its container.
