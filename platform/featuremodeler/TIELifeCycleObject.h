@@ -13,6 +13,8 @@ class TIELifeCycleObject final : public VelTie<LifeCycleObject> {
   using VelTie::VelTie;
 
   HRESULT remove() override {
+    // Not E_FAIL as elsewhere: what is asked for has happened.
+    if (IsClosed()) return S_FALSE;
     return Forward<Implementation>([](Implementation& ioObject) { return ioObject.remove(); });
   }
 };
