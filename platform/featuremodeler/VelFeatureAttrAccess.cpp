@@ -205,10 +205,11 @@ HRESULT VelFeatureAttrAccess::EmptyComponents(const VelISpecAttrKey* iKey) {
   // The end of an element may change the list, and may end this very feature: each is looked up anew.
   while (const VelFeatureSlot* slot = IsClosed() ? nullptr : FindValue(iKey, VelSpecAttrKind::Components)) {
     VelFeature& element = *slot->components->front();
-    const LifeCycleObject_var hLife(static_cast<VelBaseUnknown*>(&element));
-    const HRESULT removed = hLife ? hLife->remove() : element.Remove();
-    // An element whose own life cycle refuses stays in the container, but not in the list.
-    if (FAILED(removed) && element.Father() == &Feature()) {
+    const VelBaseUnknown_var hElement(static_cast<VelBaseUnknown*>(&element));
+    const LifeCycleObject_var hLife(hElement);
+    static_cast<void>(hLife ? hLife->remove() : element.Remove());
+    // An element whose own life cycle keeps it, whatever it answers, stays in the container, but not in the list.
+    if (element.Father() == &Feature()) {
       static_cast<void>(Feature().TakeOut(Feature().Layout().Find(iKey), element));
     }
   }
@@ -227,6 +228,9 @@ HRESULT VelFeatureAttrAccess::GetDocument(const VelISpecAttrKey* iKey, VelBaseUn
 HRESULT VelFeatureAttrAccess::SetDocument(const VelISpecAttrKey* iKey, VelBaseUnknown* iDocument) {
   const unsigned attribute = FindToWrite(iKey, VelSpecAttrKind::Document);
   if (attribute == absent) return E_FAIL;
+  // The end of the former document may end this feature too, so it comes last.
+  const VelFeatureSlot* former = FindValue(iKey, VelSpecAttrKind::Document);
+  const VelBaseUnknown_var hFormer(former != nullptr ? former->document : nullptr);
   if (iDocument != nullptr) iDocument->AddRef();
   Feature().ClearValue(attribute);
   if (iDocument == nullptr) return S_OK;
