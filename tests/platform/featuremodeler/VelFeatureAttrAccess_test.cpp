@@ -235,6 +235,14 @@ TEST_F(VelFeatureAttrAccessTest, Document_IsReferencedWhileItIsLinked) {
   EXPECT_EQ(hTexture->GetDocument(value, hDocument.Receive()), E_FAIL);
 }
 
+TEST_F(VelFeatureAttrAccessTest, Read_WithoutAPlaceForTheAnswer_IsRefused) {
+  const VelISpecAttrAccess_var hShader = Access(Make("VelRmaShader"));
+  const VelISpecAttrAccess_var hTexture = Access(Make("VelRmaTexture"));
+  EXPECT_EQ(hShader->GetComponentAt(nodes_, 1, nullptr), E_INVALIDARG);
+  EXPECT_EQ(hTexture->GetReference(node_, nullptr), E_INVALIDARG);
+  EXPECT_EQ(hTexture->GetDocument(Key("Value", VelSpecAttrKind::Document), nullptr), E_INVALIDARG);
+}
+
 TEST_F(VelFeatureAttrAccessTest, HeldReadsAndKeyTests_AllocateNothing) {
   if (!VelAllocationCounter::CountsForwarders()) GTEST_SKIP() << "the sanitizer allocates each forwarder by itself";
   const VelISpecObject_var hScalar = Make("VelRmaScalar");

@@ -2,12 +2,17 @@
 // SPDX-License-Identifier: Apache-2.0
 /// @file VelFeatureImplementation_test.cpp Implementations on features: when they are built, and what they can still do
 /// at the end.
+#include <functional>
+#include <optional>
+
 #include "platform/featuremodeler/TIELifeCycleObject.h"
 #include "platform/featuremodeler/VelSpecLifeCycleObjectExt.h"
 #include "platform/objectmodeler/VelDictionary.h"
 #include "platform/objectmodeler/VelInstanceCounts.h"
+#include "platform/objectmodeler/VelObject.h"
 #include "platform/objectmodeler/VelPin.h"
 #include "tests/platform/featuremodeler/FeatureModelerTest.h"
+#include "tests/platform/featuremodeler/NotingHooks.h"
 
 extern const VelInterfaceId IID_VelTestIProbe;
 const VelInterfaceId IID_VelTestIProbe{"VelTestIProbe", IID_VelBaseUnknown};
@@ -37,6 +42,15 @@ std::vector<std::string>& Notes() {
   return notes;
 }
 
+/// What a shader or a document does on hearing of its end, besides noting it.
+std::function<void()>& WhenClosed() {
+  static auto& whenClosed = *new std::function<void()>;
+  return whenClosed;
+}
+
+/// What a parameter answers to remove instead of handing on.
+std::optional<HRESULT> keptWith;
+
 std::string TypeOrName(VelComponent& ioComponent) {
   const VelISpecObject_var hObject(&ioComponent);
   VelUnicodeString name;
@@ -61,7 +75,10 @@ class VelTestShader final : public VelImplementation {
   static const VelMetaClass& MetaObject() noexcept;
 
   HRESULT RemoveYourself() { return LifeCycleObject_var(GetComponent())->remove(); }
-  void OnComponentStateChange(VelComponentState, VelComponentState) override { Notes().emplace_back("shader closed"); }
+  void OnComponentStateChange(VelComponentState, VelComponentState) override {
+    Notes().emplace_back("shader closed");
+    if (WhenClosed()) WhenClosed()();
+  }
 };
 
 class VelTestParameter final : public VelSpecLifeCycleObjectExt {
@@ -86,10 +103,33 @@ class VelTestParameter final : public VelSpecLifeCycleObjectExt {
   }
   HRESULT remove() {  // NOLINT(readability-identifier-naming): the name of the system
     Notes().emplace_back("parameter hears remove");
+    if (keptWith) return *keptWith;
     return VelSpecLifeCycleObjectExt::remove();
   }
   void OnComponentStateChange(VelComponentState, VelComponentState) override {
     Notes().emplace_back("parameter closed");
+  }
+};
+
+/// Answers for colours what VelTestParameter answers for the other parameters.
+class VelTestColor final : public VelImplementation {
+ public:
+  explicit VelTestColor(VelComponent& iFeature) : VelImplementation(iFeature) { Notes().emplace_back("own class"); }
+  const VelMetaClass& GetMetaObject() const noexcept override { return MetaObject(); }
+  static const VelMetaClass& MetaObject() noexcept;
+
+  HRESULT RemoveYourself() { return S_FALSE; }
+};
+
+class VelTestDocument final : public VelImplementation {
+ public:
+  explicit VelTestDocument(VelComponent& iDocument) : VelImplementation(iDocument) {}
+  const VelMetaClass& GetMetaObject() const noexcept override { return MetaObject(); }
+  static const VelMetaClass& MetaObject() noexcept;
+
+  HRESULT RemoveYourself() { return E_FAIL; }
+  void OnComponentStateChange(VelComponentState, VelComponentState iState) override {
+    if (iState == VelComponentState::Closed && WhenClosed()) WhenClosed()();
   }
 };
 
@@ -109,6 +149,8 @@ class VelFeatureImplementationTest : public FeatureModelerTest {
   }
   void TearDown() override {
     FeatureModelerTest::TearDown();
+    WhenClosed() = nullptr;
+    keptWith.reset();
     EXPECT_EQ(VelDictionary::Undeclare(velGridTable), S_OK);
   }
 
@@ -206,6 +248,153 @@ TEST_F(VelFeatureImplementationTest, ClosingTheContainer_EndsWhatIsBuilt) {
   hContainer_ = nullptr;
   EXPECT_EQ(Notes(), (Texts{"shader closed", "shader destroyed with 0"}));
   EXPECT_EQ(hShader->GetComponentState(), VelComponentState::Closed);
+}
+
+TEST_F(VelFeatureImplementationTest, Binding_OfTheOwnStartUp_IsFoundBeforeThoseOfItsBase) {
+  ASSERT_TRUE(Probe(Make("VelRmaColor", "colour")));
+  EXPECT_EQ(Notes(), Texts{"own class"});
+  ASSERT_TRUE(LifeCycleObject_var(Make("VelRmaColor", "other")));
+  EXPECT_EQ(Notes(), (Texts{"own class", "construct other"})) << "what it does not answer its base's class does";
+}
+
+TEST_F(VelFeatureImplementationTest, AllInterfacesOfAClass_AreAnsweredByOneObject) {
+  const VelISpecObject_var hScalar = Make("VelRmaScalar");
+  const VelVar<VelTestIProbe> hProbe = Probe(hScalar);
+  const LifeCycleObject_var hLife(hScalar);
+  EXPECT_EQ(hProbe->GetImpl(), hLife->GetImpl());
+  EXPECT_EQ(VelInstanceCounts::Now().implementations, 1);
+}
+
+TEST_F(VelFeatureImplementationTest, PointingOwners_AreLiveAndOfferTheInterface_AndNothingIsBuilt) {
+  const VelISpecObject_var hTarget = Make("VelRmaShader", "target");
+  const VelISpecObject_var hFirst = Make("VelRmaScalar", "first");
+  const VelISpecObject_var hRunning = Make("VelRmaScalar", "running");
+  for (const VelISpecObject_var& hOwner : {hRunning, hFirst}) {
+    ASSERT_EQ(Access(hOwner)->SetReference(node_, hTarget.Get()), S_OK);
+  }
+  VelListPtrVelBaseUnknown owners;
+  EXPECT_EQ(hTarget->ListPointingOwners(IID_VelTestIProbe, owners), S_OK);
+  EXPECT_EQ(Names(owners), (Texts{"running", "first"})) << "through the base start-up";
+  EXPECT_EQ(VelInstanceCounts::Now().implementations, 0);
+  owners.RemoveAll();
+  const VelPin pin(*hRunning->GetComponent());
+  ASSERT_EQ(LifeCycleObject_var(hRunning)->remove(), S_OK);
+  ASSERT_TRUE(Access(hRunning)->IsValuated(node_)) << "a running call still reads what is removed";
+  EXPECT_EQ(hTarget->ListPointingOwners(IID_VelTestIProbe, owners), S_OK);
+  EXPECT_EQ(Names(owners), Texts{"first"});
+}
+
+TEST_F(VelFeatureImplementationTest, Remove_AskedAgainOfAHeldForwarder_IsSuccessWithoutChange) {
+  const LifeCycleObject_var hLife(Make("VelRmaScalar"));
+  EXPECT_EQ(hLife->remove(), S_OK);
+  EXPECT_EQ(hLife->remove(), S_FALSE);
+  EXPECT_EQ(Notes().size(), 4U) << "the class hears it once";
+}
+
+TEST_F(VelFeatureImplementationTest, FeatureThatIsBuiltWhileItsFatherIsClosed_EndsLikeTheOthers) {
+  const VelISpecObject_var hShader = Make("VelRmaShader", "shader");
+  const VelISpecObject_var hScalar = Make("VelRmaScalar", "scalar");
+  ASSERT_EQ(Access(hShader)->AppendComponent(parameters_, hScalar.Get()), S_OK);
+  ASSERT_EQ(Access(hScalar)->SetText(Key("Name", VelSpecAttrKind::Text), "the name"), S_OK);
+  ASSERT_TRUE(Probe(hShader));
+  WhenClosed() = [&] { EXPECT_TRUE(Probe(hScalar)) << "still open"; };
+  Notes().clear();
+  EXPECT_EQ(LifeCycleObject_var(hShader)->remove(), S_OK);
+  EXPECT_EQ(Notes(), (Texts{"shader closed", "construct scalar", "parameter closed", "shader destroyed with 1",
+                            "parameter destroyed, scalar, the name"}));
+  EXPECT_EQ(VelInstanceCounts::Now().implementations, 0);
+}
+
+TEST_F(VelFeatureImplementationTest, ComponentRemovedOnHearingOfItsFathersEnd_EndsOnce) {
+  NotingHooks hooks;
+  const VelISpecObject_var hShader = Make("VelRmaShader", "shader");
+  const VelISpecObject_var hTexture = Make("VelRmaTexture", "texture");
+  const VelBaseUnknown_var hDocument = VelObject::Create("VelTestOther", nullptr);
+  ASSERT_EQ(Access(hShader)->AppendComponent(parameters_, hTexture.Get()), S_OK);
+  ASSERT_EQ(Access(hTexture)->SetDocument(Key("Value", VelSpecAttrKind::Document), hDocument.Get()), S_OK);
+  ASSERT_TRUE(Probe(hShader));
+  WhenClosed() = [&] { EXPECT_EQ(LifeCycleObject_var(hTexture)->remove(), S_OK); };
+  EXPECT_EQ(LifeCycleObject_var(hShader)->remove(), S_OK);
+  EXPECT_EQ(hooks.notes, Texts{"dropped"});
+  EXPECT_EQ(hContainer_->CountFeatures(), 0);
+  EXPECT_EQ(VelInstanceCounts::Now().implementations, 0);
+}
+
+TEST_F(VelFeatureImplementationTest, DocumentHooks_AreCalledOncePerLink_WhateverIsBuilt) {
+  NotingHooks hooks;
+  const VelBaseUnknown_var hDocument = VelObject::Create("VelTestOther", nullptr);
+  const VelISpecObject_var hShader = Make("VelRmaShader", "shader");
+  for (const char* name : {"built", "untouched", "without a link"}) {
+    const VelISpecObject_var hTexture = Make("VelRmaTexture", name);
+    ASSERT_EQ(Access(hShader)->AppendComponent(parameters_, hTexture.Get()), S_OK);
+    if (std::string(name) == "without a link") continue;
+    ASSERT_EQ(Access(hTexture)->SetDocument(Key("Value", VelSpecAttrKind::Document), hDocument.Get()), S_OK);
+    if (std::string(name) != "built") continue;
+    ASSERT_TRUE(Probe(hTexture));
+  }
+  VelBaseUnknown_var hCopy;
+  EXPECT_EQ(hShader->InstanciateForCopy("", nullptr, VelISpecObject::InterfaceId(), hCopy.Receive()), S_OK);
+  EXPECT_EQ(hooks.notes, (Texts{"copied", "copied"}));
+  hooks.notes.clear();
+  EXPECT_EQ(LifeCycleObject_var(hShader)->remove(), S_OK);
+  EXPECT_EQ(hooks.notes, (Texts{"dropped", "dropped"}));
+  ASSERT_TRUE(Probe(VelISpecObject_var(hCopy)));
+  hooks.notes.clear();
+  hContainer_ = nullptr;
+  EXPECT_EQ(hooks.notes, Texts{}) << "closing drops nothing";
+}
+
+TEST_F(VelFeatureImplementationTest, ClosingTheContainer_IsAnnouncedToFathersFirst) {
+  const VelISpecObject_var hScalar = Make("VelRmaScalar", "scalar");
+  const VelISpecObject_var hShader = Make("VelRmaShader", "shader");
+  ASSERT_EQ(Access(hShader)->AppendComponent(parameters_, hScalar.Get()), S_OK);
+  ASSERT_TRUE(Probe(hScalar));
+  Notes().clear();
+  hContainer_ = nullptr;
+  EXPECT_EQ(Notes(), (Texts{"shader closed", "parameter closed", "shader destroyed with 1",
+                            "parameter destroyed, scalar, unreadable"}));
+}
+
+TEST_F(VelFeatureImplementationTest, ClosingTheContainer_InsideACallOfAFeature_KeepsItUntilTheCallUnwinds) {
+  const VelISpecObject_var hScalar = Make("VelRmaScalar", "scalar");
+  ASSERT_TRUE(Probe(hScalar));
+  ASSERT_EQ(Access(hScalar)->SetText(Key("Name", VelSpecAttrKind::Text), "the name"), S_OK);
+  Notes().clear();
+  {
+    const VelPin pin(*hScalar->GetComponent());
+    hContainer_ = nullptr;
+    EXPECT_EQ(Notes(), Texts{"parameter closed"});
+  }
+  EXPECT_EQ(Notes(), (Texts{"parameter closed", "parameter destroyed, scalar, the name"}));
+}
+
+TEST_F(VelFeatureImplementationTest, EmptyingComponents_TakesOutWhatItsOwnLifeCycleKeeps) {
+  for (const HRESULT answer : {E_FAIL, S_OK, S_FALSE}) {
+    SCOPED_TRACE(answer);
+    const VelISpecObject_var hShader = Make("VelRmaShader", "shader");
+    const VelISpecObject_var hScalar = Make("VelRmaScalar", "scalar");
+    ASSERT_EQ(Access(hShader)->AppendComponent(parameters_, hScalar.Get()), S_OK);
+    keptWith = answer;
+    EXPECT_EQ(Access(hShader)->EmptyComponents(parameters_), S_OK);
+    EXPECT_FALSE(Access(hShader)->IsValuated(parameters_));
+    EXPECT_EQ(hScalar->GetComponentState(), VelComponentState::InSession);
+    VelISpecObject_var hFather;
+    EXPECT_EQ(hScalar->GetFather(hFather.Receive()), E_FAIL);
+  }
+}
+
+TEST_F(VelFeatureImplementationTest, DocumentWhoseEndRemovesTheFeature_MayBeReplaced) {
+  const VelISpecObject_var hTexture = Make("VelRmaTexture", "texture");
+  const VelISpecAttrKey* const value = Key("Value", VelSpecAttrKind::Document);
+  VelBaseUnknown_var hFormer = VelObject::Create("VelTestDocument", nullptr);
+  ASSERT_TRUE(VelVar<VelTestIProbe>(hFormer));
+  ASSERT_EQ(Access(hTexture)->SetDocument(value, hFormer.Get()), S_OK);
+  WhenClosed() = [&] { EXPECT_EQ(LifeCycleObject_var(hTexture)->remove(), S_OK); };
+  hFormer = nullptr;
+  const VelBaseUnknown_var hNext = VelObject::Create("VelTestOther", nullptr);
+  EXPECT_EQ(Access(hTexture)->SetDocument(value, hNext.Get()), S_OK);
+  EXPECT_EQ(hTexture->GetComponentState(), VelComponentState::Closed);
+  EXPECT_FALSE(Access(hTexture)->IsValuated(value)) << "nothing is left in what is removed";
 }
 
 }  // namespace

@@ -2,31 +2,18 @@
 // SPDX-License-Identifier: Apache-2.0
 /// @file VelFeature_test.cpp Features: where they come from, how they are copied, and how they end.
 #include "platform/featuremodeler/VelFeatureSlab.h"
-#include "platform/featuremodeler/VelSpecDocumentLinkHooks.h"
 #include "platform/objectmodeler/VelBaseUnknown_WR.h"
 #include "platform/objectmodeler/VelDictionary.h"
+#include "platform/objectmodeler/VelIDelegation.h"
 #include "platform/objectmodeler/VelInstanceCounts.h"
 #include "platform/objectmodeler/VelObject.h"
 #include "tests/platform/featuremodeler/FeatureModelerTest.h"
+#include "tests/platform/featuremodeler/NotingHooks.h"
 
 namespace {
 
 using Texts = std::vector<std::string>;
 using VelFeatureTest = FeatureModelerTest;
-
-/// Notes what the document service would count.
-class NotingHooks final : public VelSpecDocumentLinkHooks {
- public:
-  NotingHooks() { VelSpecDocumentLinkHooks::Install(this); }
-  ~NotingHooks() { VelSpecDocumentLinkHooks::Install(nullptr); }
-  NotingHooks(const NotingHooks&) = delete;
-  NotingHooks& operator=(const NotingHooks&) = delete;
-
-  void OnCopied(VelBaseUnknown&) override { notes.emplace_back("copied"); }
-  void OnDropped(VelBaseUnknown&) override { notes.emplace_back("dropped"); }
-
-  Texts notes;
-};
 
 TEST_F(VelFeatureTest, Feature_KnowsItsTypeNameAndContainer) {
   const VelISpecObject_var hFeature = Make("VelRmaScalar", "a name");
@@ -48,6 +35,15 @@ TEST_F(VelFeatureTest, Feature_KnowsItsTypeNameAndContainer) {
   EXPECT_EQ(hFeature->GetComponentState(), VelComponentState::InSession);
 }
 
+TEST_F(VelFeatureTest, EveryFeature_HasALifeCycleAndADelegation_WithoutABindingOfItsOwn) {
+  for (const char* type : {"VelRmaShader", "VelRmaParameter", "VelRmaScalar", "VelRmaVoid"}) {
+    SCOPED_TRACE(type);
+    const VelISpecObject_var hFeature = Make(type);
+    EXPECT_TRUE(LifeCycleObject_var(hFeature));
+    EXPECT_TRUE(VelIDelegation_var(hFeature));
+  }
+}
+
 TEST_F(VelFeatureTest, FindStartUp_FindsWhatTheContainersCatalogsDeclareAndLoadsNone) {
   VelBaseUnknown_var hStartUp;
   EXPECT_EQ(FindStartUp("VelISpecObject", "", "VelRmaScalar", *hContainer_, hStartUp.Receive()), S_OK);
@@ -57,6 +53,7 @@ TEST_F(VelFeatureTest, FindStartUp_FindsWhatTheContainersCatalogsDeclareAndLoads
   EXPECT_EQ(FindStartUp("VelISpecObject", "", "VelRmaNothing", *hContainer_, hStartUp.Receive()), E_FAIL);
   EXPECT_FALSE(hStartUp);
   EXPECT_EQ(FindStartUp("VelIContainer", "", "VelRmaScalar", *hContainer_, hStartUp.Receive()), E_NOINTERFACE);
+  EXPECT_EQ(FindStartUp(nullptr, "", "VelRmaScalar", *hContainer_, hStartUp.Receive()), E_NOINTERFACE);
   EXPECT_EQ(FindStartUp("VelISpecObject", "", "VelRmaScalar", *hContainer_, nullptr), E_INVALIDARG);
   const VelIContainer_var hFresh = VelIContainer::Create();
   EXPECT_EQ(FindStartUp("VelISpecObject", "", "VelRmaScalar", *hFresh, hStartUp.Receive()), E_FAIL)
@@ -197,15 +194,45 @@ TEST_F(VelFeatureTest, Remove_ClosesTheFeatureAndAllThatItAggregates) {
 
 TEST_F(VelFeatureTest, ClosingTheContainer_ClosesFeaturesWithoutDroppingDocuments) {
   NotingHooks hooks;
-  const VelISpecObject_var hTexture = Make("VelRmaTexture", "texture");
+  VelISpecObject_var hTexture = Make("VelRmaTexture", "texture");
   const VelBaseUnknown_var hDocument = VelObject::Create("VelTestDocument", nullptr);
-  const VelISpecAttrAccess_var hAccess = Access(hTexture);
+  VelISpecAttrAccess_var hAccess = Access(hTexture);
   ASSERT_EQ(hAccess->SetDocument(Key("Value", VelSpecAttrKind::Document), hDocument.Get()), S_OK);
   hContainer_ = nullptr;
   EXPECT_EQ(hTexture->GetComponentState(), VelComponentState::Closed);
   EXPECT_FALSE(hAccess->TestAttrKey(Key("Value", VelSpecAttrKind::Document)));
   EXPECT_EQ(hooks.notes, Texts{});
+  EXPECT_EQ(LifeCycleObject_var(hTexture)->remove(), S_FALSE) << "nor does whoever removes it afterwards";
+  EXPECT_EQ(hooks.notes, Texts{});
   EXPECT_EQ(VelFeatureSlab::Count(), 1) << "the slab outlives its container while a block of it is held";
+  hAccess = nullptr;
+  hTexture = nullptr;
+  EXPECT_EQ(VelFeatureSlab::Count(), 0) << "and goes with the last";
+}
+
+TEST_F(VelFeatureTest, RemovedFeature_KeepsItsBlockWhileItIsHeld) {
+  VelISpecObject_var hRemoved = Make("VelRmaScalar", "removed");
+  VelComponent* const block = hRemoved->GetComponent();
+  ASSERT_EQ(LifeCycleObject_var(hRemoved)->remove(), S_OK);
+  EXPECT_NE(Make("VelRmaScalar", "next")->GetComponent(), block);
+  VelUnicodeString name;
+  EXPECT_EQ(hRemoved->GetName(name), E_FAIL);
+  EXPECT_EQ(hRemoved->GetComponentState(), VelComponentState::Closed);
+  hRemoved = nullptr;
+  EXPECT_EQ(Make("VelRmaScalar", "later")->GetComponent(), block) << "used again once nobody holds it";
+}
+
+TEST_F(VelFeatureTest, ClosingAContainerThatIsStillHeld_ClosesItsFeatures) {
+  const VelISpecObject_var hFeature = Make("VelRmaScalar", "feature");
+  const VelISpecObject_var hElsewhere = MakeIn(VelIContainer::Create(), "VelRmaShader");
+  const VelIContainer_var hOther = VelIContainer::Create();
+  const VelISpecObject_var hTarget = MakeIn(hOther, "VelRmaShader");
+  ASSERT_EQ(Access(hFeature)->SetReference(node_, hTarget.Get()), S_OK);
+  EXPECT_EQ(hElsewhere->GetComponentState(), VelComponentState::Closed);
+  VelObject::From(hOther.Get())->EndLife();
+  EXPECT_EQ(hTarget->GetComponentState(), VelComponentState::Closed);
+  EXPECT_FALSE(Access(hFeature)->IsValuated(node_)) << "a reference to what is closed has no value";
+  EXPECT_EQ(hFeature->GetComponentState(), VelComponentState::InSession);
 }
 
 TEST_F(VelFeatureTest, Memory_IsGivenBackWithTheLastHolder) {
