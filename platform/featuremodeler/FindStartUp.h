@@ -15,8 +15,8 @@
 /// @param[in] iType the start-up's name
 /// @param[out] oStartUp the start-up with one reference for the caller; null on failure
 /// @return S_OK; E_INVALIDARG when oStartUp is null or the container is none of this modeler; E_FAIL when no catalog of
-/// the
-///         container declares the start-up; E_NOINTERFACE when it does not answer the interface
+///         the container declares the start-up; E_NOINTERFACE when it does not answer the interface, or iInterface is
+///         null
 VEL_PLATFORM_API HRESULT FindStartUp(const char* iInterface, const VelString& iClient, const VelString& iType,
                                      VelIContainer& iContainer, VelBaseUnknown** oStartUp);
 

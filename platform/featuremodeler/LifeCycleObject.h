@@ -13,7 +13,10 @@ VEL_PLATFORM_API extern const VelInterfaceId IID_LifeCycleObject;
 
 /// The end of a feature.
 ///
-/// Implemented by: the feature modeler, for every feature without a binding of its own.
+/// Implemented by: the feature modeler, for every feature without a binding of its own; else by a class that derives
+/// from VelSpecLifeCycleObjectExt. Such a class goes with the feature: afterwards a held interface still answers, a
+/// query finds none.
+///
 /// Thread: the application thread. Re-entrancy: an operation of the feature may remove it; what is built for it then
 /// goes when that call has unwound.
 class VEL_PLATFORM_API LifeCycleObject : public VelBaseUnknown {

@@ -16,7 +16,8 @@ VEL_PLATFORM_API extern const VelInterfaceId IID_VelIContainer;
 class VelIContainer;
 using VelIContainer_var = VelVar<VelIContainer>;
 
-/// Holds features. It lives while it is referenced; with it all its features are closed, without being removed.
+/// Holds features. It lives while it is referenced. When it is closed, with its last reference at the latest, all its
+/// features are closed, fathers first, without being removed.
 ///
 /// Implemented by: the feature modeler, for late type "VelContainer".
 /// Thread: the application thread. Re-entrancy: none.

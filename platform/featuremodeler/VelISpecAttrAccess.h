@@ -19,20 +19,23 @@ VEL_PLATFORM_API extern const VelInterfaceId IID_VelISpecAttrAccess;
 ///
 /// Every operation that returns a code answers E_FAIL, with nothing read or written and every out argument untouched,
 /// when the key is null, is not one of the feature's (TestAttrKey) or is of another kind than the operation's, when the
-/// feature is removed, and, for a read, when the attribute is not valuated. Nothing else fails unless it says so. A
-/// removed feature can still be read until what was built for it is destroyed.
+/// feature is removed, and, for a read, when the attribute is not valuated. An out pointer that is null is
+/// E_INVALIDARG. Otherwise the answer is S_OK, unless the operation says more. A removed feature can still be read
+/// until what was built for it is destroyed.
 ///
 /// Implemented by: the feature modeler, for every feature.
-/// Thread: the application thread. Re-entrancy: none; the operations call nobody but the document hooks.
+/// Thread: the application thread. Re-entrancy: AppendComponent may build what hears a new component; EmptyComponents
+/// runs the life cycle of the elements; SetDocument may end the former document. The others call nobody.
 class VEL_PLATFORM_API VelISpecAttrAccess : public VelBaseUnknown {
  public:
   VEL_INTERFACE(VelISpecAttrAccess);
 
-  /// @return true when the feature has an attribute of the key's name and kind; false for null
+  /// @return true when the feature has an attribute of the key's name and kind; false for null, and once nothing can be
+  /// read any more
   virtual bool TestAttrKey(const VelISpecAttrKey* iKey) = 0;
 
   /// @return true when the attribute has been given a value: an empty text counts as one, a list as long as it has
-  /// elements
+  /// elements; false for null and for a key that is none of the feature's
   virtual bool IsValuated(const VelISpecAttrKey* iKey) = 0;
 
   virtual HRESULT GetBoolean(const VelISpecAttrKey* iKey, bool& oValue) = 0;
@@ -72,9 +75,9 @@ class VEL_PLATFORM_API VelISpecAttrAccess : public VelBaseUnknown {
   virtual HRESULT ResetReference(const VelISpecAttrKey* iKey) = 0;
 
   /// Appends a feature to a list of components and makes this feature its father.
-  /// @return S_OK; E_INVALIDARG when iFeature is null or no feature; E_FAIL also when it has a father already, is
-  /// removed,
-  ///         is of another container, or is this feature or above it
+  /// @param[in] iFeature not null; the container goes on holding it
+  /// @return S_OK; E_INVALIDARG when iFeature is null or no feature; E_FAIL also when it has a father already (as when
+  ///         it is in the list), is removed, is of another container, or is this feature or above it
   virtual HRESULT AppendComponent(const VelISpecAttrKey* iKey, VelBaseUnknown* iFeature) = 0;
 
   /// Takes a feature out of a list of components. It has no father any more and stays in the container.
@@ -86,7 +89,8 @@ class VEL_PLATFORM_API VelISpecAttrAccess : public VelBaseUnknown {
   /// @return S_OK; E_INVALIDARG for another position
   virtual HRESULT GetComponentAt(const VelISpecAttrKey* iKey, int iPosition, VelBaseUnknown** oFeature) = 0;
 
-  /// Removes every element of a list of components through its life cycle.
+  /// Removes every element of a list of components through its life cycle. One whose own life cycle keeps it is taken
+  /// out as by RemoveComponent.
   /// @return S_OK; S_FALSE when the list had none
   virtual HRESULT EmptyComponents(const VelISpecAttrKey* iKey) = 0;
 

@@ -37,7 +37,8 @@ class VEL_PLATFORM_API VelISpecObject : public VelBaseUnknown {
   /// @return S_OK; E_FAIL when the feature is removed
   virtual HRESULT GetName(VelUnicodeString& oName) = 0;
 
-  /// @return S_OK; E_FAIL for a start-up
+  /// @param[in] iName may be empty
+  /// @return S_OK; E_FAIL for a start-up, and when the feature is removed
   virtual HRESULT SetName(const VelUnicodeString& iName) = 0;
 
   /// @param[out] oContainer with one reference for the caller; null on failure
@@ -45,7 +46,9 @@ class VEL_PLATFORM_API VelISpecObject : public VelBaseUnknown {
   virtual HRESULT GetContainer(VelIContainer** oContainer) = 0;
 
   /// Instantiates a feature of this start-up.
-  /// @param[in] iContainer not null
+  /// @param[in] iName the feature's name, which may be empty
+  /// @param[in] iContainer not null; holds the feature until it is removed
+  /// @param[in] iInterface what the feature is handed out as
   /// @param[out] oFeature the feature, as the interface asked for, with one reference for the caller; null on failure
   /// @return S_OK; E_INVALIDARG when iContainer or oFeature is null or iContainer is no container of this modeler;
   /// E_FAIL
@@ -55,7 +58,8 @@ class VEL_PLATFORM_API VelISpecObject : public VelBaseUnknown {
                               const VelInterfaceId& iInterface, VelBaseUnknown** oFeature) = 0;
 
   /// Copies the feature with all that it aggregates. References and document links of the copy point where those of the
-  /// original point; the copy has no father.
+  /// original point; the copy has no father. The document hook "copied" is called for each link.
+  /// @param[in] iName the copy's name, which may be empty; what it aggregates keeps the names of the originals
   /// @param[in] iContainer where the copy is made; null for the container of the original
   /// @param[out] oFeature as for Instanciate
   /// @return as Instanciate; E_FAIL for a start-up
@@ -66,7 +70,7 @@ class VEL_PLATFORM_API VelISpecObject : public VelBaseUnknown {
   /// references were written.
   /// @param[in] iOwnerInterface only owners that offer it, as the dictionary says; nothing is built
   /// @param[in,out] ioOwners each owner is appended with one reference for the caller
-  /// @return S_OK; E_FAIL for a start-up
+  /// @return S_OK; E_FAIL for a start-up, and when the feature is removed
   virtual HRESULT ListPointingOwners(const VelInterfaceId& iOwnerInterface, VelListPtrVelBaseUnknown& ioOwners) = 0;
 
  protected:

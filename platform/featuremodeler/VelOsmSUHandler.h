@@ -23,8 +23,8 @@ class VEL_PLATFORM_API VelOsmSUHandler {
   /// @param[in] iName the feature's name, which may be empty
   /// @param[out] oFeature the feature as the interface asked for, with one reference for the caller; null on failure
   /// @return S_OK; E_INVALIDARG when oFeature is null or the container is none of this modeler; E_FAIL when the catalog
-  ///         cannot be loaded or does not declare the start-up; E_NOINTERFACE when the new feature, which then stays in
-  ///         the container, does not answer the interface
+  ///         cannot be loaded or does not declare the start-up, and for a closed container; E_NOINTERFACE when the new
+  ///         feature, which then stays in the container, does not answer the interface
   HRESULT Instanciate(VelIContainer& ioContainer, const VelUnicodeString& iName, const VelInterfaceId& iInterface,
                       VelBaseUnknown** oFeature) const;
 

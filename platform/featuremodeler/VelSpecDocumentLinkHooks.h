@@ -12,13 +12,17 @@
 /// Closing a container calls neither.
 class VEL_PLATFORM_API VelSpecDocumentLinkHooks {
  public:
-  /// A feature with a link to the document was copied.
+  /// A feature with a link to the document was copied. Called once per link, while the copy is being made: no feature
+  /// may be removed in it.
   virtual void OnCopied(VelBaseUnknown& ioDocument) = 0;
 
-  /// A feature with a link to the document was removed.
+  /// A feature with a link to the document was removed. Called once per link, after what was built for the feature is
+  /// destroyed; the document is still linked.
   virtual void OnDropped(VelBaseUnknown& ioDocument) = 0;
 
-  /// Installs the hooks of the process, which are not owned. @return those that were installed, null for none
+  /// Installs the hooks of the process.
+  /// @param[in] iHooks not owned; null for none
+  /// @return those that were installed before, null for none
   static VelSpecDocumentLinkHooks* Install(VelSpecDocumentLinkHooks* iHooks) noexcept;
 
   /// @return the hooks that are installed, null for none
