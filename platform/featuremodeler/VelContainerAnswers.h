@@ -12,7 +12,9 @@
 class VelContainerFeatures final : public VelPooledExtension<VelIContainer> {
  public:
   explicit VelContainerFeatures(VelComponent& iContainer) noexcept : VelPooledExtension(iContainer) {}
-  static VelBaseUnknown* Create(VelComponent& ioContainer) { return Make<VelContainerFeatures>(ioContainer); }
+  static VelBaseUnknown* Create(VelComponent& ioContainer) {
+    return VelContainer::From(&ioContainer) != nullptr ? Make<VelContainerFeatures>(ioContainer) : nullptr;
+  }
   static const VelMetaClass& MetaObject() noexcept;
 
   HRESULT ListFeatures(const VelString& iType, VelListPtrVelBaseUnknown& ioFeatures) override;
@@ -25,7 +27,9 @@ class VelContainerFeatures final : public VelPooledExtension<VelIContainer> {
 class VelContainerCatalogs final : public VelPooledExtension<VelICatalogManager> {
  public:
   explicit VelContainerCatalogs(VelComponent& iContainer) noexcept : VelPooledExtension(iContainer) {}
-  static VelBaseUnknown* Create(VelComponent& ioContainer) { return Make<VelContainerCatalogs>(ioContainer); }
+  static VelBaseUnknown* Create(VelComponent& ioContainer) {
+    return VelContainer::From(&ioContainer) != nullptr ? Make<VelContainerCatalogs>(ioContainer) : nullptr;
+  }
   static const VelMetaClass& MetaObject() noexcept;
 
   HRESULT LoadCatalog(const VelString& iCatalog) override {

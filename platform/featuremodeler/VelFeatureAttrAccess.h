@@ -11,7 +11,9 @@
 class VelFeatureAttrAccess final : public VelPooledExtension<VelISpecAttrAccess> {
  public:
   explicit VelFeatureAttrAccess(VelComponent& iFeature) noexcept : VelPooledExtension(iFeature) {}
-  static VelBaseUnknown* Create(VelComponent& ioFeature) { return Make<VelFeatureAttrAccess>(ioFeature); }
+  static VelBaseUnknown* Create(VelComponent& ioFeature) {
+    return VelFeature::From(&ioFeature) != nullptr ? Make<VelFeatureAttrAccess>(ioFeature) : nullptr;
+  }
   static const VelMetaClass& MetaObject() noexcept;
 
   bool TestAttrKey(const VelISpecAttrKey* iKey) override;

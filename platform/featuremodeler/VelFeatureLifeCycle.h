@@ -11,7 +11,9 @@
 class VelFeatureLifeCycle final : public VelPooledExtension<LifeCycleObject> {
  public:
   explicit VelFeatureLifeCycle(VelComponent& iFeature) noexcept : VelPooledExtension(iFeature) {}
-  static VelBaseUnknown* Create(VelComponent& ioFeature) { return Make<VelFeatureLifeCycle>(ioFeature); }
+  static VelBaseUnknown* Create(VelComponent& ioFeature) {
+    return VelFeature::From(&ioFeature) != nullptr ? Make<VelFeatureLifeCycle>(ioFeature) : nullptr;
+  }
   static const VelMetaClass& MetaObject() noexcept;
 
   HRESULT remove() override { return static_cast<VelFeature&>(*GetComponent()).Remove(); }

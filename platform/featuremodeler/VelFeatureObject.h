@@ -11,7 +11,9 @@
 class VelFeatureObject final : public VelPooledExtension<VelISpecObject> {
  public:
   explicit VelFeatureObject(VelComponent& iFeature) noexcept : VelPooledExtension(iFeature) {}
-  static VelBaseUnknown* Create(VelComponent& ioFeature) { return Make<VelFeatureObject>(ioFeature); }
+  static VelBaseUnknown* Create(VelComponent& ioFeature) {
+    return VelFeature::From(&ioFeature) != nullptr ? Make<VelFeatureObject>(ioFeature) : nullptr;
+  }
   static const VelMetaClass& MetaObject() noexcept;
 
   HRESULT GetFather(VelISpecObject** oFather) override;

@@ -27,7 +27,9 @@ class VelStartUp final : public VelObject {
 class VelStartUpObject final : public VelPooledExtension<VelISpecObject> {
  public:
   explicit VelStartUpObject(VelComponent& iStartUp) noexcept : VelPooledExtension(iStartUp) {}
-  static VelBaseUnknown* Create(VelComponent& ioStartUp) { return Make<VelStartUpObject>(ioStartUp); }
+  static VelBaseUnknown* Create(VelComponent& ioStartUp) {
+    return &ioStartUp.GetMetaObject() == &VelStartUp::MetaObject() ? Make<VelStartUpObject>(ioStartUp) : nullptr;
+  }
   static const VelMetaClass& MetaObject() noexcept;
 
   HRESULT GetFather(VelISpecObject** oFather) override;

@@ -368,6 +368,24 @@ TEST_F(VelFeatureImplementationTest, ClosingTheContainer_InsideACallOfAFeature_K
   EXPECT_EQ(Notes(), (Texts{"parameter closed", "parameter destroyed, scalar, the name"}));
 }
 
+TEST_F(VelFeatureImplementationTest, Container_WhoseLastHolderGoesOnHearingOfAnEnd_EndsTheRestOnce) {
+  NotingHooks hooks;
+  const VelBaseUnknown_var hDocument = VelObject::Create("VelTestOther", nullptr);
+  const VelISpecObject_var hShader = Make("VelRmaShader", "shader");
+  const VelISpecObject_var hTexture = Make("VelRmaTexture", "texture");
+  const VelISpecObject_var hUnrelated = Make("VelRmaTexture", "unrelated");
+  ASSERT_EQ(Access(hShader)->AppendComponent(parameters_, hTexture.Get()), S_OK);
+  for (const VelISpecObject_var& hEach : {hTexture, hUnrelated}) {
+    ASSERT_EQ(Access(hEach)->SetDocument(Key("Value", VelSpecAttrKind::Document), hDocument.Get()), S_OK);
+    ASSERT_TRUE(Probe(hEach));
+  }
+  WhenClosed() = [&] { hContainer_ = nullptr; };
+  EXPECT_EQ(LifeCycleObject_var(hShader)->remove(), S_OK);
+  EXPECT_EQ(hooks.notes, Texts{"dropped"}) << "only what was removed";
+  EXPECT_EQ(hUnrelated->GetComponentState(), VelComponentState::Closed);
+  EXPECT_EQ(VelInstanceCounts::Now().implementations, 0);
+}
+
 TEST_F(VelFeatureImplementationTest, EmptyingComponents_TakesOutWhatItsOwnLifeCycleKeeps) {
   for (const HRESULT answer : {E_FAIL, S_OK, S_FALSE}) {
     SCOPED_TRACE(answer);

@@ -15,6 +15,49 @@ namespace {
 using Texts = std::vector<std::string>;
 using VelFeatureTest = FeatureModelerTest;
 
+/// A container of somebody else's.
+class ForeignContainer final : public VelIContainer {
+ public:
+  HRESULT QueryInterface(const VelInterfaceId&, VelBaseUnknown** oInterface) noexcept override {
+    *oInterface = nullptr;
+    return E_NOINTERFACE;
+  }
+  std::uint32_t AddRef() noexcept override { return 2; }
+  std::uint32_t Release() noexcept override { return 1; }
+  VelComponent* GetComponent() noexcept override { return nullptr; }
+  VelBaseUnknown* GetImpl() noexcept override { return this; }
+  const VelMetaClass& GetMetaObject() const noexcept override { return InterfaceId().MetaObject(); }
+  HRESULT ListFeatures(const VelString&, VelListPtrVelBaseUnknown&) override { return S_OK; }
+  int CountFeatures() override { return 0; }
+};
+
+TEST_F(VelFeatureTest, ContainerOfSomebodyElse_IsRefused) {
+  ForeignContainer container;
+  const VelInterfaceId& object = VelISpecObject::InterfaceId();
+  VelBaseUnknown_var hFound;
+  VelBaseUnknown_var hMade;
+  EXPECT_EQ(FindStartUp("VelISpecObject", "", "VelRmaScalar", container, hFound.Receive()), E_INVALIDARG);
+  EXPECT_EQ(
+      VelOsmSUHandler("VelRmaScalar", "", "VelRmaCatalog.feat").Instanciate(container, "", object, hMade.Receive()),
+      E_INVALIDARG);
+  ASSERT_EQ(FindStartUp("VelISpecObject", "", "VelRmaScalar", *hContainer_, hFound.Receive()), S_OK);
+  EXPECT_EQ(VelISpecObject_var(hFound)->Instanciate("", &container, object, hMade.Receive()), E_INVALIDARG);
+  EXPECT_EQ(Make("VelRmaScalar")->InstanciateForCopy("", &container, object, hMade.Receive()), E_INVALIDARG);
+}
+
+TEST_F(VelFeatureTest, ObjectOfALateTypeOfTheModeler_IsNeitherFeatureNorStartUpNorContainer) {
+  Make("VelRmaScalar");
+  for (const char* lateType : {"VelRmaScalar", "VelFeature", "VelStartUp", "VelContainer"}) {
+    SCOPED_TRACE(lateType);
+    const VelBaseUnknown_var hObject = VelObject::Create(lateType, nullptr);
+    EXPECT_FALSE(VelISpecObject_var(hObject));
+    EXPECT_FALSE(VelISpecAttrAccess_var(hObject));
+    EXPECT_FALSE(LifeCycleObject_var(hObject));
+    EXPECT_FALSE(VelIContainer_var(hObject));
+    EXPECT_FALSE(VelICatalogManager_var(hObject));
+  }
+}
+
 TEST_F(VelFeatureTest, Feature_KnowsItsTypeNameAndContainer) {
   const VelISpecObject_var hFeature = Make("VelRmaScalar", "a name");
   VelString type;
