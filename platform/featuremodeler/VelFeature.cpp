@@ -83,7 +83,8 @@ HRESULT VelFeature::Append(unsigned iAttribute, VelFeature& ioComponent) {
   if (ioComponent.State() == VelComponentState::Closed || ioComponent.father_ != nullptr) return E_FAIL;
   if (ioComponent.Container() != Container()) return E_FAIL;
   for (const VelFeature* above = this; above != nullptr; above = above->father_) {
-    if (above == &ioComponent) return E_FAIL;
+    // What comes below something that is being removed would escape its end.
+    if (above == &ioComponent || above->State() == VelComponentState::Closed) return E_FAIL;
   }
   VelFeatureSlot& slot = Slot(iAttribute);
   if (!IsValuated(iAttribute)) slot.components = new std::vector<VelFeature*>;

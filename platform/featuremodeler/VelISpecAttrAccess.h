@@ -77,7 +77,8 @@ class VEL_PLATFORM_API VelISpecAttrAccess : public VelBaseUnknown {
   /// Appends a feature to a list of components and makes this feature its father.
   /// @param[in] iFeature not null; the container goes on holding it
   /// @return S_OK; E_INVALIDARG when iFeature is null or no feature; E_FAIL also when it has a father already (as when
-  ///         it is in the list), is removed, is of another container, or is this feature or above it
+  ///         it is in the list), is removed, is of another container, or is this feature or above it, and when
+  ///         a feature above this one is being removed
   virtual HRESULT AppendComponent(const VelISpecAttrKey* iKey, VelBaseUnknown* iFeature) = 0;
 
   /// Takes a feature out of a list of components. It has no father any more and stays in the container.

@@ -320,6 +320,17 @@ TEST_F(VelFeatureImplementationTest, ComponentRemovedOnHearingOfItsFathersEnd_En
   EXPECT_EQ(VelInstanceCounts::Now().implementations, 0);
 }
 
+TEST_F(VelFeatureImplementationTest, FeatureBelowOneThatIsBeingRemoved_TakesNoComponentAnyMore) {
+  const VelISpecObject_var hShader = Make("VelRmaShader", "shader");
+  const VelISpecObject_var hNode = Make("VelRmaShader", "node");
+  const VelISpecObject_var hLate = Make("VelRmaScalar", "late");
+  ASSERT_EQ(Access(hShader)->AppendComponent(nodes_, hNode.Get()), S_OK);
+  ASSERT_TRUE(Probe(hShader));
+  WhenClosed() = [&] { EXPECT_EQ(Access(hNode)->AppendComponent(parameters_, hLate.Get()), E_FAIL); };
+  EXPECT_EQ(LifeCycleObject_var(hShader)->remove(), S_OK);
+  EXPECT_EQ(hLate->GetComponentState(), VelComponentState::InSession);
+}
+
 TEST_F(VelFeatureImplementationTest, DocumentHooks_AreCalledOncePerLink_WhateverIsBuilt) {
   NotingHooks hooks;
   const VelBaseUnknown_var hDocument = VelObject::Create("VelTestOther", nullptr);
