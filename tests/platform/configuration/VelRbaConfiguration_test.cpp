@@ -215,6 +215,19 @@ TEST_F(VelRbaConfigurationTest, MoreNamesThanAreRemembered_AreStillAnsweredRight
   for (int i = 0; i < 70000; ++i) {
     ASSERT_EQ(Value(std::to_string(i).c_str(), "key"), "default");
   }
+  VelString value("default");
+  const VelString first("0");
+  const VelString key("key");
+  {
+    const VelAllocationCounter allocations;
+    ASSERT_EQ(VelRbaConfiguration::GetHierarchicalValue(first, key, value), S_OK);
+    EXPECT_GT(allocations.Count(), 0) << "the first name is forgotten";
+  }
+  {
+    const VelAllocationCounter allocations;
+    ASSERT_EQ(VelRbaConfiguration::GetHierarchicalValue(first, key, value), S_OK);
+    EXPECT_EQ(allocations.Count(), 0) << "and remembered anew";
+  }
   EXPECT_EQ(Value("Car", "key"), "car");
   EXPECT_EQ(Value("0", "key"), "default");
   EXPECT_EQ(Value("0", "missing"), "(none)");

@@ -333,6 +333,42 @@ TEST_F(VelModelEventsTest, Closing_TheSourceDuringADispatch_SkipsTheRest) {
   EXPECT_EQ(VelInstanceCounts::Now().components, 2);
 }
 
+TEST_F(VelModelEventsTest, Listener_ThatIsBeingClosed_ReceivesNothingWhileItIsStillConnected) {
+  const Model source = MakeModel("source");
+  const Model listener = MakeModel("listener");
+  Connect(listener, source);
+  listener->onClosing = [&] {
+    EXPECT_EQ(VelExtIModelEvents::CountConnections(), 1);
+    EXPECT_EQ(EventsOf(source)->Dispatch(notification_), S_OK);
+  };
+  listener.End();
+  EXPECT_EQ(TakeNotes(), Texts{});
+}
+
+TEST_F(VelModelEventsTest, Source_ThatIsClosedAndStaysConnected_HandsNothingOn) {
+  const Model source = MakeModel("source");
+  const Model a = MakeModel("a");
+  const Model b = MakeModel("b");
+  Connect(a, source);
+  Connect(b, source);
+  source->staysConnected = true;
+  a->act = [&](VelNotification&) {
+    source.End();
+    EXPECT_EQ(VelExtIModelEvents::CountConnections(), 2);
+  };
+  EXPECT_EQ(EventsOf(source)->Dispatch(notification_), S_OK);
+  EXPECT_EQ(TakeNotes(), Texts{"a"});
+  EXPECT_EQ(VelExtIModelEvents::CountConnections(), 0) << "at the latest they end with the object";
+}
+
+TEST_F(VelModelEventsTest, Object_ThatClosesItselfOnReceiving_IsNotAskedToDispatch) {
+  const Model model = MakeModel("model");
+  model->act = [&](VelNotification&) { model.End(); };
+  model->inDispatch = [](VelNotification&) { VelTestNotes().emplace_back("dispatched"); };
+  EXPECT_EQ(EventsOf(model)->Receive(notification_), E_FAIL);
+  EXPECT_EQ(TakeNotes(), Texts{"model"});
+}
+
 TEST_F(VelModelEventsTest, Receiver_ThatThrows_IsACheckAndTheNextOneGoesOn) {
   const Model source = MakeModel("source");
   const Model a = MakeModel("a");
