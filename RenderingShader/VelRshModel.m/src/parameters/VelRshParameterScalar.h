@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The VelRshModel authors
+// SPDX-License-Identifier: Apache-2.0
+/// @file VelRshParameterScalar.h A parameter that holds a real number.
+#ifndef RENDERINGSHADER_VELRSHMODEL_M_SRC_PARAMETERS_VELRSHPARAMETERSCALAR_H
+#define RENDERINGSHADER_VELRSHMODEL_M_SRC_PARAMETERS_VELRSHPARAMETERSCALAR_H
+
+#include "RenderingShader/VelRshModel.m/include/VelKeySetVelRmaCatalog.h"
+#include "RenderingShader/VelRshModel.m/src/parameters/VelRshParameterValue.h"
+#include "RenderingShader/interfaces/VelIRshParameterImmLayout.h"
+#include "platform/materials/VelRbaFloatShaderModifyNotification.h"
+
+/// What is particular to a real number: its attribute is a double.
+struct VelRshScalarValue {
+  using Value = float;
+  using Layout = VelIRshParameterImmLayout;
+  using Changed = VelRshModelNotificationParameterScalar1Changed;
+  using HostChanged = VelRbaFloatShaderModifyNotification;
+  static constexpr Value fallback = 0.0F;
+
+  static const VelISpecAttrKey* Key(VelISpecAttrAccess* iAccess) {
+    return VelKeySetVelRmaCatalog::GetKeyVelRmaScalarValue(iAccess);
+  }
+  static HRESULT Read(const VelRshAttribute& iAttribute, Value& oValue) {
+    double real = 0.0;
+    VEL_RETURN_IF_FAILED(iAttribute->GetReal(iAttribute.Key(), real));
+    oValue = static_cast<float>(real);
+    return S_OK;
+  }
+  static HRESULT Write(const VelRshAttribute& iAttribute, const Value& iValue) {
+    return iAttribute->SetReal(iAttribute.Key(), static_cast<double>(iValue));
+  }
+  /// Other than for the other types, a value that the host supplies counts as present as well.
+  static bool IsPresent(bool, HRESULT iRead) { return SUCCEEDED(iRead); }
+  static double ToHost(float iValue) { return static_cast<double>(iValue); }
+};
+
+/// Implements a feature of start-up VelRmaScalar.
+class VelRshParameterScalar final : public VelRshParameterValue<VelRshScalarValue> {
+ public:
+  using VelRshParameterValue::VelRshParameterValue;
+  ~VelRshParameterScalar() override;
+  const VelMetaClass& GetMetaObject() const noexcept override { return MetaObject(); }
+  static const VelMetaClass& MetaObject() noexcept;
+};
+
+#endif  // RENDERINGSHADER_VELRSHMODEL_M_SRC_PARAMETERS_VELRSHPARAMETERSCALAR_H
