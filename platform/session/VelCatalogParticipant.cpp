@@ -3,7 +3,13 @@
 /// @file VelCatalogParticipant.cpp Registers itself when the library is loaded.
 #include "platform/session/VelCatalogParticipant.h"
 
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/base/system/VelSystemFile.h"
 #include "platform/featuremodeler/VelCatalog.h"
+#include "platform/session/VelInstalledShare.h"
 #include "platform/session/VelPlatformSession.h"
 
 namespace {
@@ -16,8 +22,17 @@ namespace {
 
 }  // namespace
 
+/// A catalog that is read at the start can be asked for by its file's name alone, as the component does.
 HRESULT VelCatalogParticipant::OnSessionStart(const VelPlatformOptions& iOptions) {
-  VelCatalog::SetFolders(iOptions.searchFolders);
+  std::vector<std::string> folders = iOptions.searchFolders;
+  for (const std::string& catalog : iOptions.catalogs) {
+    const std::string found = VelPlatformSession::Current()->Locate(catalog);
+    if (!found.empty()) folders.push_back(VelSystemFile::FolderOf(found));
+  }
+  if (const std::string installed = VelInstalledShare::FindFolder("catalogs"); !installed.empty()) {
+    folders.push_back(installed);
+  }
+  VelCatalog::SetFolders(std::move(folders));
   for (const std::string& catalog : iOptions.catalogs) {
     if (VelCatalog::Load(catalog) != nullptr) continue;
     OnSessionEnd();

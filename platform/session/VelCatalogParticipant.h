@@ -6,8 +6,9 @@
 
 #include "platform/session/VelSessionParticipant.h"
 
-/// Takes care of VelPlatformOptions::catalogs: their files are read at the start of the session, and the search folders
-/// are where catalogs are looked for that a container asks for by name. Catalogs stay for the process. Not exported.
+/// Takes care of VelPlatformOptions::catalogs: their files are read at the start of the session. A catalog that a
+/// container asks for by its file's name is looked for in the search folders, in the folders of those files, and in the
+/// folder share/velrsh/catalogs of the installation. Catalogs stay for the process. Not exported.
 class VelCatalogParticipant final : public VelSessionParticipant {
  public:
   HRESULT OnSessionStart(const VelPlatformOptions& iOptions) override;

@@ -4,10 +4,9 @@
 #include "platform/session/VelConfigurationParticipant.h"
 
 #include "platform/base/VelEnvironment.h"
-#include "platform/base/system/VelSystemFile.h"
-#include "platform/base/system/VelSystemLibrary.h"
 #include "platform/configuration/VelConfigurationLoader.h"
 #include "platform/configuration/VelConfigurationTables.h"
+#include "platform/session/VelInstalledShare.h"
 #include "platform/session/VelPlatformSession.h"
 #include "platform/trace/VelTraceHandle.h"
 
@@ -24,17 +23,6 @@ bool AddParticipant() {
 
 HRESULT Load(const std::string& iPath) { return VelConfigurationLoader(VelConfigurationOwner::Session).Load(iPath); }
 
-/// Found from where this library lies, so that an installation can be moved.
-/// @return the folder of the installed configurations, empty when there is none, as in a build tree
-std::string InstalledFolder() {
-  std::string library;
-  std::string folder;
-  std::string cause;
-  if (FAILED(VelSystemFile::CanonicalPath(VelSystemLibrary::PathOf(&participantAdded), library, cause))) return {};
-  const std::string share = VelSystemFile::FolderOf(library) + "/" VEL_SHARE_FROM_LIBRARY;
-  return SUCCEEDED(VelSystemFile::CanonicalPath(share + "/configuration", folder, cause)) ? folder : std::string();
-}
-
 }  // namespace
 
 HRESULT VelConfigurationParticipant::OnSessionStart(const VelPlatformOptions& iOptions) {
@@ -49,7 +37,7 @@ HRESULT VelConfigurationParticipant::OnSessionStart(const VelPlatformOptions& iO
 void VelConfigurationParticipant::OnSessionEnd() { VelConfigurationTables::Instance().EndSession(); }
 
 void VelConfigurationParticipant::LoadInstallation() {
-  const std::string folder = InstalledFolder();
+  const std::string folder = VelInstalledShare::FindFolder("configuration");
   if (folder.empty() || SUCCEEDED(Load(folder))) return;
   VelTraceHandle(channel).Warning("The installed configurations in '%s' are not loaded, or not all of them", folder);
 }

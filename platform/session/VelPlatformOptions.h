@@ -13,7 +13,7 @@ struct VelPlatformOptions {
   /// Dictionary files, and folders whose ".dictionary" files are all loaded.
   std::vector<std::string> dictionaries{};
 
-  /// Catalog files. docs/catalog.md describes them.
+  /// Catalog files, which containers can then load by the name of the file alone. docs/catalog.md describes them.
   std::vector<std::string> catalogs{};
 
   /// Configuration files, and folders whose ".toml" files are all loaded; a later one overrides key by key, and all of

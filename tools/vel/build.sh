@@ -4,7 +4,7 @@
 #
 # The commands that build and run: demo, test, bench.
 
-demo_program=first_component
+demo_program=first_shader
 test_presets="release debug core clang asan"
 
 use_compiler_cache() {

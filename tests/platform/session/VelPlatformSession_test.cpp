@@ -20,6 +20,7 @@
 #include "platform/objectmodeler/VelDictionary.h"
 #include "platform/objectmodeler/VelObject.h"
 #include "platform/trace/QrnSysTrace.h"
+#include "platform/trace/VelDiagnostics.h"
 #include "platform/trace/VelTraceRecorder.h"
 #include "platform/trace/VelTraceService.h"
 #include "tests/support/VelFailureRecorder.h"
@@ -162,6 +163,17 @@ TEST_F(VelPlatformSessionTest, DictionaryLoadedBeforeTheSession_StaysAfterIt) {
   EXPECT_EQ(session.End(), S_OK);
   EXPECT_EQ(FrameworkOf("SessionOne"), "SessionTests");
   EXPECT_EQ(VelDictionary::Unload(file), S_OK);
+}
+
+TEST_F(VelPlatformSessionTest, CatalogReadAtTheStart_IsFoundByItsFilesNameAlone) {
+  const std::filesystem::path catalog = folder_ / "named.feat";
+  std::ofstream(catalog) << "velrsh-catalog 1\ncatalog SessionNamedCatalog\nstartup SessionNamedStartUp\n";
+  VelPlatformSession session;
+  ASSERT_EQ(session.Start({.catalogs = {catalog.string()}}), S_OK);
+  EXPECT_NE(VelCatalog::Load("named.feat"), nullptr);
+  EXPECT_EQ(session.End(), S_OK);
+  const VelDiagnostics diagnostics;
+  EXPECT_EQ(VelCatalog::Load("named.feat"), nullptr) << "the folders go with the session";
 }
 
 TEST_F(VelPlatformSessionTest, Catalogs_AreReadAtTheStart) {
