@@ -2,11 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 /// @file VelBindingGrid_test.cpp A binding grid against what is written out here by hand: its file, its answers and its
 /// symbols.
-#include <array>
-#include <cstdio>
 #include <fstream>
 #include <iterator>
-#include <memory>
 #include <set>
 
 #include "platform/base/system/VelSystemLibrary.h"
@@ -15,6 +12,7 @@
 #include "platform/objectmodeler/VelModule.h"
 #include "platform/objectmodeler/VelObject.h"
 #include "tests/platform/objectmodeler/DictionaryScope.h"
+#include "tests/platform/objectmodeler/LibraryEntries.h"
 #include "tests/platform/objectmodeler/modules/VelITestNumber.h"
 #include "tests/platform/objectmodeler/modules/VelITestText.h"
 
@@ -23,21 +21,6 @@ namespace {
 std::string ReadWhole(const std::string& iPath) {
   std::ifstream file(iPath, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
-}
-
-/// @return the symbols of C linkage that the dictionary looks for and that a library exports
-std::set<std::string> EntriesOf(const std::string& iLibrary) {
-  const std::string command = std::string("'") + VEL_TEST_NM + "' -D --defined-only '" + iLibrary + "'";
-  const std::unique_ptr<FILE, int (*)(FILE*)> pipe(::popen(command.c_str(), "r"), &::pclose);
-  std::set<std::string> names;
-  std::array<char, 1024> line{};
-  while (pipe != nullptr && std::fgets(line.data(), line.size(), pipe.get()) != nullptr) {
-    std::string name(line.data());
-    name = name.substr(name.rfind(' ') + 1);
-    name.erase(name.find('\n'));
-    if (name.starts_with("Create") || name.starts_with("VelModule")) names.insert(name);
-  }
-  return names;
 }
 
 TEST(VelBindingGridTest, DictionaryFile_IsTheGridLineByLine) {
