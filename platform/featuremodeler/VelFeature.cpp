@@ -32,16 +32,13 @@ VelFeature& VelFeature::Make(VelContainer& ioContainer, const VelFeatureLayout& 
 
 VelFeature* VelFeature::From(VelBaseUnknown* iObject) noexcept {
   VelComponent* component = iObject != nullptr ? iObject->GetComponent() : nullptr;
-  if (component == nullptr || &component->GetMetaObject() != &MetaObject()) return nullptr;
-  return static_cast<VelFeature*>(component);
+  return component != nullptr && Is(*component) ? static_cast<VelFeature*>(component) : nullptr;
 }
 
 const VelMetaClass& VelFeature::MetaObject() noexcept {
   static const VelMetaClass& metaClass = fct_RetrieveMetaObject("VelFeature", nullptr, VelTypeOfClass::Implementation);
   return metaClass;
 }
-
-const VelFeatureLayout& VelFeature::Layout() const noexcept { return *LateType().Layout(); }
 
 VelContainer* VelFeature::Container() const noexcept { return VelFeatureSlab::Of(this).Container(); }
 

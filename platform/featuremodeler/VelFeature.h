@@ -11,6 +11,7 @@
 #include "platform/base/HResult.h"
 #include "platform/featuremodeler/VelFeatureLayout.h"
 #include "platform/objectmodeler/VelComponent.h"
+#include "platform/objectmodeler/VelLateType.h"
 
 class VelContainer;
 class VelFeatureReference;
@@ -39,6 +40,9 @@ class VelFeature final : public VelComponent {
   /// Makes a feature without father in a container; it is in session once SetOpen is called.
   static VelFeature& Make(VelContainer& ioContainer, const VelFeatureLayout& iLayout, std::string_view iName);
 
+  /// @return true for a component that is a feature, and not just of a late type that features have
+  static bool Is(const VelComponent& iComponent) noexcept { return &iComponent.GetMetaObject() == &MetaObject(); }
+
   /// @return the feature behind a pointer, null when it is none
   static VelFeature* From(VelBaseUnknown* iObject) noexcept;
 
@@ -46,7 +50,7 @@ class VelFeature final : public VelComponent {
   static const VelMetaClass& MetaObject() noexcept;
   VelComponent* GetFather() noexcept override { return father_; }
 
-  const VelFeatureLayout& Layout() const noexcept;
+  const VelFeatureLayout& Layout() const noexcept { return *LateType().Layout(); }
   VelContainer* Container() const noexcept;
   VelFeature* Father() const noexcept { return father_; }
   std::string_view Name() const noexcept;

@@ -12,7 +12,7 @@ class VelFeatureAttrAccess final : public VelPooledExtension<VelISpecAttrAccess>
  public:
   explicit VelFeatureAttrAccess(VelComponent& iFeature) noexcept : VelPooledExtension(iFeature) {}
   static VelBaseUnknown* Create(VelComponent& ioFeature) {
-    return VelFeature::From(&ioFeature) != nullptr ? Make<VelFeatureAttrAccess>(ioFeature) : nullptr;
+    return VelFeature::Is(ioFeature) ? Make<VelFeatureAttrAccess>(ioFeature) : nullptr;
   }
   static const VelMetaClass& MetaObject() noexcept;
 

@@ -12,7 +12,7 @@ class VelFeatureLifeCycle final : public VelPooledExtension<LifeCycleObject> {
  public:
   explicit VelFeatureLifeCycle(VelComponent& iFeature) noexcept : VelPooledExtension(iFeature) {}
   static VelBaseUnknown* Create(VelComponent& ioFeature) {
-    return VelFeature::From(&ioFeature) != nullptr ? Make<VelFeatureLifeCycle>(ioFeature) : nullptr;
+    return VelFeature::Is(ioFeature) ? Make<VelFeatureLifeCycle>(ioFeature) : nullptr;
   }
   static const VelMetaClass& MetaObject() noexcept;
 

@@ -12,7 +12,7 @@ class VelFeatureObject final : public VelPooledExtension<VelISpecObject> {
  public:
   explicit VelFeatureObject(VelComponent& iFeature) noexcept : VelPooledExtension(iFeature) {}
   static VelBaseUnknown* Create(VelComponent& ioFeature) {
-    return VelFeature::From(&ioFeature) != nullptr ? Make<VelFeatureObject>(ioFeature) : nullptr;
+    return VelFeature::Is(ioFeature) ? Make<VelFeatureObject>(ioFeature) : nullptr;
   }
   static const VelMetaClass& MetaObject() noexcept;
 

@@ -36,6 +36,11 @@ HRESULT VelComponent::QueryInterface(const VelInterfaceId& iInterface, VelBaseUn
     *oInterface = this;
     return S_OK;
   }
+  if (row->lifetime == VelLifetime::Always && row->createBoa != nullptr) {
+    // It holds nothing and asks nobody: no father is built for it, and nothing can end this component meanwhile.
+    *oInterface = row->createBoa(*this);
+    return *oInterface != nullptr ? S_OK : E_NOINTERFACE;
+  }
   VelImplementation* built = VelComponentAccess::Find(*this, row->record);
   if (built == nullptr) return BuildAndQuery(*row, oInterface);
   ++count_;
