@@ -7,12 +7,16 @@
 #include "RenderingShader/VelRshModel.m/include/VelKeySetVelRmaCatalog.h"
 #include "RenderingShader/VelRshModel.m/include/VelRshVizNotificationParameterSubstanceGraphOutputChanged.h"
 #include "RenderingShader/VelRshModel.m/src/services/VelRshAttribute.h"
+#include "RenderingShader/interfaces/VelIRshShader.h"
+#include "platform/objectmodeler/VelComponent.h"
 #include "platform/substance/VelAlgVizNotificationSubstanceGraphOutputChanged.h"
 
 void VelERshParameterGeneric_VelIModelEvents::OnAttached() {
   const VelRshAttribute node(this, &VelKeySetVelRmaCatalog::GetKeyVelRmaParameterNode);
   VelBaseUnknown_var hConnected;
   if (!node || FAILED(node->GetReference(node.Key(), hConnected.Receive()))) return;
+  // What is no shader is no connection: nobody would ever end what is begun here.
+  if (!hConnected->GetComponent()->OffersInterface(VelIRshShader::InterfaceId())) return;
   static_cast<void>(ConnectTo(hConnected.Get()));
 }
 

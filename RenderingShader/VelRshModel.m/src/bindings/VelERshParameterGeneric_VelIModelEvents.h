@@ -14,8 +14,8 @@ class VelERshParameterGeneric_VelIModelEvents final : public VelExtIModelEvents 
   const VelMetaClass& GetMetaObject() const noexcept override { return MetaObject(); }
   static const VelMetaClass& MetaObject() noexcept;
 
-  /// Connects to what the parameter is connected to, so that a change is heard of a parameter that nobody has touched
-  /// since it was loaded.
+  /// Connects to the shader that the parameter is connected to, so that a change is heard of a parameter that nobody
+  /// has touched since it was loaded.
   void OnAttached() override;
 
   HRESULT Dispatch(VelNotification& ioNotification) override;
