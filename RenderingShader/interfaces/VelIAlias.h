@@ -20,7 +20,8 @@ class VEL_RSH_INTERFACES_API VelIAlias : public VelBaseUnknown {
  public:
   VEL_INTERFACE(VelIAlias);
 
-  /// @param[in] iAlias an empty label is computed again when it is read
+  /// @param[in] iAlias an empty one takes the label away. A shader then computes its label again when it is read; a
+  ///            parameter only if it has not yet learnt what stands above it.
   /// @return S_OK; E_FAIL when the object is closed
   virtual HRESULT SetAlias(const VelUnicodeString& iAlias) = 0;
 

@@ -16,6 +16,7 @@ struct VelRshBooleanValue {
   using Changed = VelRshModelNotificationParameterBoolean1Changed;
   using HostChanged = VelRbaBooleanShaderModifyNotification;
   static constexpr Value fallback = true;
+  static constexpr bool suppliedCounts = false;
 
   static const VelISpecAttrKey* Key(VelISpecAttrAccess* iAccess) {
     return VelKeySetVelRmaCatalog::GetKeyVelRmaBooleanValue(iAccess);
@@ -26,7 +27,6 @@ struct VelRshBooleanValue {
   static HRESULT Write(const VelRshAttribute& iAttribute, const Value& iValue) {
     return iAttribute->SetBoolean(iAttribute.Key(), iValue);
   }
-  static bool IsPresent(bool iIsValuated, HRESULT) { return iIsValuated; }
   static bool ToHost(bool iValue) { return iValue; }
 };
 

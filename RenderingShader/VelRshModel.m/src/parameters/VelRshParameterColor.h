@@ -19,6 +19,7 @@ struct VelRshColorValue {
   using Changed = VelRshModelNotificationParameterScalar4Changed;
   using HostChanged = VelRbaColorShaderModifyNotification;
   static constexpr Value fallback{};
+  static constexpr bool suppliedCounts = false;
 
   static const VelISpecAttrKey* Key(VelISpecAttrAccess* iAccess) {
     return VelKeySetVelRmaCatalog::GetKeyVelRmaColorValue(iAccess);
@@ -29,7 +30,6 @@ struct VelRshColorValue {
   static HRESULT Write(const VelRshAttribute& iAttribute, const Value& iValue) {
     return VelRshRealList::Write(iAttribute, iValue);
   }
-  static bool IsPresent(bool iIsValuated, HRESULT) { return iIsValuated; }
   static rgba_t ToHost(const Value& iValue) { return {iValue[0], iValue[1], iValue[2], iValue[3]}; }
 };
 

@@ -16,6 +16,7 @@ struct VelRshIntegerValue {
   using Changed = VelRshModelNotificationParameterIntegral1Changed;
   using HostChanged = VelRbaIntegralShaderModifyNotification;
   static constexpr Value fallback = 0;
+  static constexpr bool suppliedCounts = false;
 
   static const VelISpecAttrKey* Key(VelISpecAttrAccess* iAccess) {
     return VelKeySetVelRmaCatalog::GetKeyVelRmaIntegerValue(iAccess);
@@ -26,7 +27,6 @@ struct VelRshIntegerValue {
   static HRESULT Write(const VelRshAttribute& iAttribute, const Value& iValue) {
     return iAttribute->SetInteger(iAttribute.Key(), iValue);
   }
-  static bool IsPresent(bool iIsValuated, HRESULT) { return iIsValuated; }
   static std::int32_t ToHost(std::int32_t iValue) { return iValue; }
 };
 

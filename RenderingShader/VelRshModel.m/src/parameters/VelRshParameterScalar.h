@@ -16,6 +16,7 @@ struct VelRshScalarValue {
   using Changed = VelRshModelNotificationParameterScalar1Changed;
   using HostChanged = VelRbaFloatShaderModifyNotification;
   static constexpr Value fallback = 0.0F;
+  static constexpr bool suppliedCounts = true;  // Other than for the other types.
 
   static const VelISpecAttrKey* Key(VelISpecAttrAccess* iAccess) {
     return VelKeySetVelRmaCatalog::GetKeyVelRmaScalarValue(iAccess);
@@ -29,8 +30,6 @@ struct VelRshScalarValue {
   static HRESULT Write(const VelRshAttribute& iAttribute, const Value& iValue) {
     return iAttribute->SetReal(iAttribute.Key(), static_cast<double>(iValue));
   }
-  /// Other than for the other types, a value that the host supplies counts as present as well.
-  static bool IsPresent(bool, HRESULT iRead) { return SUCCEEDED(iRead); }
   static double ToHost(float iValue) { return static_cast<double>(iValue); }
 };
 

@@ -16,6 +16,7 @@ struct VelRshStringValue {
   using Changed = VelRshModelNotificationParameterTextChanged;
   using HostChanged = VelRbaStringShaderModifyNotification;
   static constexpr const char* fallback = "";
+  static constexpr bool suppliedCounts = false;
 
   static const VelISpecAttrKey* Key(VelISpecAttrAccess* iAccess) {
     return VelKeySetVelRmaCatalog::GetKeyVelRmaStringValue(iAccess);
@@ -26,7 +27,6 @@ struct VelRshStringValue {
   static HRESULT Write(const VelRshAttribute& iAttribute, const Value& iValue) {
     return iAttribute->SetText(iAttribute.Key(), iValue);
   }
-  static bool IsPresent(bool iIsValuated, HRESULT) { return iIsValuated; }
   static const VelUnicodeString& ToHost(const VelUnicodeString& iValue) { return iValue; }
 };
 

@@ -18,10 +18,10 @@
 ///     using Changed = VelRshModelNotificationParameterScalar1Changed;
 ///     using HostChanged = VelRbaFloatShaderModifyNotification;    void: the host is not told
 ///     static constexpr Value fallback = 0.0F;                     the value where nobody supplies one
+///     static constexpr bool suppliedCounts = true;                whether to set what was supplied changes nothing
 ///     static const VelISpecAttrKey* Key(VelISpecAttrAccess* iAccess);
 ///     static HRESULT Read(const VelRshAttribute& iAttribute, Value& oValue);
 ///     static HRESULT Write(const VelRshAttribute& iAttribute, const Value& iValue);
-///     static bool IsPresent(bool iIsValuated, HRESULT iRead);     whether an equal value leaves nothing to change
 ///     static HostChanged::Value ToHost(const Value& iValue);
 template <class Policy>
 class VelRshParameterValue : public VelRshParameterBase {
@@ -39,7 +39,8 @@ class VelRshParameterValue : public VelRshParameterBase {
     if (!attribute) return E_FAIL;
     Value previous(Policy::fallback);
     const HRESULT read = Read(attribute, previous);
-    if (Policy::IsPresent(attribute.IsValuated(), read) && previous == next) return S_FALSE;
+    const bool isPresent = SUCCEEDED(read) && (Policy::suppliedCounts || attribute.IsValuated());
+    if (isPresent && previous == next) return S_FALSE;
     VEL_RETURN_IF_FAILED(Policy::Write(attribute, next));
     Publish(previous, next);
     return S_OK;
@@ -58,6 +59,7 @@ class VelRshParameterValue : public VelRshParameterBase {
   HRESULT ReadInto(const VelRshAttribute& iAttribute, VelRshValueTarget oValue) {
     Value value(Policy::fallback);
     const HRESULT read = Read(iAttribute, value);
+    // A failure gives the fallback, unless the attribute has a value that cannot be read.
     if (SUCCEEDED(read) || !iAttribute.IsValuated()) VelRshGive(std::move(value), oValue);
     return read;
   }
@@ -65,10 +67,12 @@ class VelRshParameterValue : public VelRshParameterBase {
  private:
   /// Reads the attribute; where it has no value, what the host supplies, else the fallback with a failure.
   HRESULT Read(const VelRshAttribute& iAttribute, Value& oValue) {
-    if (iAttribute.IsValuated()) return Policy::Read(iAttribute, oValue);
+    const HRESULT read = Policy::Read(iAttribute, oValue);
+    if (SUCCEEDED(read) || iAttribute.IsValuated()) return read;
     const VelVar<typename Policy::Layout> hLayout(this);
     const HRESULT supplied = hLayout ? hLayout->GetDefaultValue(VelRshTargetOf(oValue)) : E_FAIL;
-    if (FAILED(supplied)) oValue = Value(Policy::fallback);
+    if (SUCCEEDED(supplied)) return S_OK;
+    oValue = Value(Policy::fallback);
     return supplied;
   }
 

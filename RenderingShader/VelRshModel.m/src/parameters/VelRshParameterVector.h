@@ -19,6 +19,7 @@ struct VelRshVectorValue {
   using Changed = VelRshModelNotificationParameterScalar3Changed;
   using HostChanged = void;
   static constexpr Value fallback{};
+  static constexpr bool suppliedCounts = false;
 
   static const VelISpecAttrKey* Key(VelISpecAttrAccess* iAccess) {
     return VelKeySetVelRmaCatalog::GetKeyVelRmaColorValue(iAccess);
@@ -29,7 +30,6 @@ struct VelRshVectorValue {
   static HRESULT Write(const VelRshAttribute& iAttribute, const Value& iValue) {
     return VelRshRealList::Write(iAttribute, iValue);
   }
-  static bool IsPresent(bool iIsValuated, HRESULT) { return iIsValuated; }
 };
 
 /// Implements a feature of start-up VelRmaVector. Reading reports what is missing.

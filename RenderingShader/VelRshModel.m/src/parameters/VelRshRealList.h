@@ -12,13 +12,13 @@
 class VelRshRealList {
  public:
   /// Reads the first elements of a list.
-  /// @return S_OK; a failure, with oValues untouched, when the list has fewer elements or no value
+  /// @return S_OK; E_FAIL, with oValues untouched, when the list has fewer elements or no value
   template <std::size_t Count>
   static HRESULT Read(const VelRshAttribute& iAttribute, std::array<float, Count>& oValues) {
     std::array<float, Count> values{};
     for (std::size_t i = 0; i < Count; ++i) {
       double real = 0.0;
-      VEL_RETURN_IF_FAILED(iAttribute->GetRealAt(iAttribute.Key(), static_cast<int>(i) + 1, real));
+      if (FAILED(iAttribute->GetRealAt(iAttribute.Key(), static_cast<int>(i) + 1, real))) return E_FAIL;
       values[i] = static_cast<float>(real);
     }
     oValues = values;
