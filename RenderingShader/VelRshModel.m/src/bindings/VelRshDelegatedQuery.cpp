@@ -36,7 +36,7 @@ HRESULT VelRshDelegatedQuery(VelBaseUnknown* iExtension, const VelInterfaceId* i
   if (hr != S_OK) return Misused(118, "hr==S_OK");
   if (!ptVelIDelegation) return Misused(119, "ptVelIDelegation");
   VelBaseUnknown_var hDelegate;
-  if (FAILED(ptVelIDelegation->GetDelegate(hDelegate.Receive()))) return E_FAIL;
+  if (FAILED(ptVelIDelegation->GetDelegate(hDelegate.Receive())) || !hDelegate) return E_FAIL;
   const HRESULT answered = hDelegate->QueryInterface(*iInterface, oInterface);
   return SUCCEEDED(answered) && *oInterface != nullptr ? S_OK : E_FAIL;
 }

@@ -12,6 +12,7 @@
 #include "RenderingShader/interfaces/VelIRshParameterPrivate.h"
 #include "platform/configuration/VelMsgCatalog.h"
 #include "platform/featuremodeler/FindStartUp.h"
+#include "platform/featuremodeler/LifeCycleObject.h"
 #include "platform/featuremodeler/VelICatalogManager.h"
 #include "platform/materials/VelIRenderingMaterial.h"
 #include "platform/trace/VelClassTrace.h"
@@ -151,7 +152,13 @@ HRESULT VelRshShaderFeature::MakeParameter(const VelString& iName, const VelStri
   VelBaseUnknown_var hMade;
   const HRESULT made =
       hStartUp->Instanciate(VelUnicodeString(iName), hContainer.Get(), VelISpecObject::InterfaceId(), hMade.Receive());
-  if (FAILED(made) || FAILED(parameters->AppendComponent(parameters.Key(), hMade.Get()))) return E_FAIL;
+  if (FAILED(made)) return E_FAIL;
+  if (FAILED(parameters->AppendComponent(parameters.Key(), hMade.Get()))) {
+    // A shader that is being removed with its father takes nothing in; nobody else would ever remove the feature.
+    const LifeCycleObject_var hLife(hMade);
+    if (hLife) static_cast<void>(hLife->remove());
+    return E_FAIL;
+  }
   *oFeature = hMade.Detach();
   return S_OK;
 }
