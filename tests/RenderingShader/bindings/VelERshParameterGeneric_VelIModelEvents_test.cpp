@@ -142,7 +142,8 @@ TEST_F(VelParameterModelEventsTest, OtherNotifications_GoOnUnchanged) {
   VelModifyAttribut modified(nullptr, nullptr, nullptr, 0);
   EXPECT_EQ(VelIModelEvents_var(hQ_)->Dispatch(modified), S_OK);
   EXPECT_EQ(listener.last, &modified);
-  ParameterChanged translated(*hQ_, *FakeGraphOutput::Create());
+  const VelIAlgSubstanceGraphOutput_var hOutput = FakeGraphOutput::Create();
+  ParameterChanged translated(*hQ_, *hOutput);
   EXPECT_EQ(VelIModelEvents_var(hQ_)->Dispatch(translated), S_OK);
   EXPECT_EQ(listener.last, &translated) << "what is translated already";
   EXPECT_EQ(listener.classes.size(), 2U);
