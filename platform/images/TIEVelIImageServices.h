@@ -16,6 +16,23 @@ class TIEVelIImageServices final : public VelTie<VelIImageServices> {
     return Forward<Implementation>(
         [&](Implementation& ioServices) { return ioServices.GetProjectionPath(iDocument, oPath); });
   }
+  VelPixelImage* CreatePixelImageFromFullPath(const VelUnicodeString& iPath, const VelListValVelUnicodeString& iGroups,
+                                              int iDpi) override {
+    return Forward<Implementation>(
+        [&](Implementation& ioServices) { return ioServices.CreatePixelImageFromFullPath(iPath, iGroups, iDpi); });
+  }
+  HRESULT ConvertUnsupportedTexture(VelUnicodeString& ioPath, const VelListValVelUnicodeString& iGroups,
+                                    int iDpi) override {
+    return Forward<Implementation>(
+        [&](Implementation& ioServices) { return ioServices.ConvertUnsupportedTexture(ioPath, iGroups, iDpi); });
+  }
+  VelPixelImage* CreatePixelImageFromFile(const VelUnicodeString& iPath) override {
+    return Forward<Implementation>(
+        [&](Implementation& ioServices) { return ioServices.CreatePixelImageFromFile(iPath); });
+  }
+  HRESULT ResolvePath(const VelUnicodeString& iPath, VelUnicodeString& oPath) override {
+    return Forward<Implementation>([&](Implementation& ioServices) { return ioServices.ResolvePath(iPath, oPath); });
+  }
 };
 
 #endif  // PLATFORM_IMAGES_TIEVELIIMAGESERVICES_H

@@ -4,15 +4,18 @@
 #ifndef PLATFORM_IMAGES_VELIIMAGESERVICES_H
 #define PLATFORM_IMAGES_VELIIMAGESERVICES_H
 
+#include "platform/base/VelListValVelUnicodeString.h"
 #include "platform/base/VelPlatformApi.h"
 #include "platform/base/VelUnicodeString.h"
 #include "platform/objectmodeler/VelBaseUnknown.h"
 #include "platform/objectmodeler/VelVar.h"
 
+class VelPixelImage;
+
 VEL_PLATFORM_API extern const VelInterfaceId IID_VelIImageServices;
 
-/// What VelRbaImageServices forwards to. The provider is declared in the dictionary for the late type
-/// "VelPlatformImages", as a row of a module's grid:
+/// What VelRbaImageServices, VelRbaPathResolver and VelPixelImage forward to. The provider is declared in the
+/// dictionary for the late type "VelPlatformImages", as a row of a module's grid:
 ///
 ///     VEL_GRID_CELL(<class>, VelPlatformImages, Component, VelIImageServices, TIE)
 ///
@@ -27,6 +30,25 @@ class VEL_PLATFORM_API VelIImageServices : public VelBaseUnknown {
   /// As VelRbaImageServices::GetProjectionPath.
   /// @param[in] iDocument not null
   virtual HRESULT GetProjectionPath(VelBaseUnknown* iDocument, VelUnicodeString& oPath) = 0;
+
+  /// As VelRbaImageServices::CreatePixelImageFromFullPath. What is refused, damaged or past a limit is null with one
+  /// warning that names the path and the cause.
+  /// @return the image with one reference for the caller; null when there is none to be had
+  [[nodiscard]] virtual VelPixelImage* CreatePixelImageFromFullPath(const VelUnicodeString& iPath,
+                                                                    const VelListValVelUnicodeString& iGroups,
+                                                                    int iDpi) = 0;
+
+  /// As VelRbaImageServices::ConvertUnsupportedTexture.
+  /// @param[in,out] ioPath what is written there counts on S_OK only
+  virtual HRESULT ConvertUnsupportedTexture(VelUnicodeString& ioPath, const VelListValVelUnicodeString& iGroups,
+                                            int iDpi) = 0;
+
+  /// As VelPixelImage::CreateFromFile, and null as for CreatePixelImageFromFullPath.
+  [[nodiscard]] virtual VelPixelImage* CreatePixelImageFromFile(const VelUnicodeString& iPath) = 0;
+
+  /// As VelRbaPathResolver::Resolve.
+  /// @param[out] oPath never iPath itself; what is written there does not count on failure
+  virtual HRESULT ResolvePath(const VelUnicodeString& iPath, VelUnicodeString& oPath) = 0;
 
  protected:
   ~VelIImageServices() = default;
