@@ -184,6 +184,7 @@ TEST_F(VelRshShaderFeatureDelegateTest, Delegate_IsAnObjectOfItsOwnClass_MadeOnc
   EXPECT_STREQ(hDelegate->GetComponent()->ClassName(), "VelRshShaderDelegate");
   EXPECT_TRUE(hDelegate->GetComponent()->IsAKindOf("VelObject"));
   for (const Operation& operation : lazyOperations) operation.call(*hShader);
+  EXPECT_EQ(VelInstanceCounts::Now().components, 3) << "the container, the shader and its delegate";
   EXPECT_TRUE(IsSameObject(DelegateOf(hShader.Get()).Get(), hDelegate.Get()));
   EXPECT_FALSE(IsSameObject(DelegateOf(MakeShader("BasicMaterial").Get()).Get(), hDelegate.Get()));
 }

@@ -312,6 +312,14 @@ TEST_F(VelRshShaderFeatureGraphTest, ConnectionBesideTheConnection_EndsAtTheConn
                    "0 CONNECTION_UPDATED R > M", "1 FORWARDED_PARAMETER_CONNECTION_UPDATED M > m"}));
 }
 
+TEST_F(VelRshShaderFeatureGraphTest, ShaderConnectedToItsOwnParameter_HearsItOnce) {
+  ASSERT_EQ(hQ_->SetConnection(hShader_.Get()), S_OK);
+  for (VelEventName event : {ParameterEvents::VALUE_UPDATED(), ParameterEvents::CONNECTION_UPDATED()}) {
+    EXPECT_EQ(Subscribers(ManagerOf(hQ_), event), Texts{"S"}) << event;
+  }
+  ExpectHearers(hShader_, {"Q", "R"});
+}
+
 TEST_F(VelRshShaderFeatureGraphTest, RemovedShader_HearsNothingOfAParameterThatStays) {
   ASSERT_EQ(VelISpecAttrAccess_var(hShader_)->RemoveComponent(parameters_, hR_.Get()), S_OK);
   ASSERT_EQ(Remove(hShader_.Get()), S_OK);

@@ -212,6 +212,7 @@ TEST_F(VelRshShaderFeatureTest, GetParentShader_BelowAnythingElse_IsEmpty) {
   const VelISpecObject_var hMaterial = FakeRenderingMaterial::Create(*hContainer_);
   const VelIRshShader_var hRoot = MakeShader();
   ASSERT_EQ(FakeRenderingMaterial::Of(*hMaterial).SetShader(hRoot.Get()), S_OK);
+  ASSERT_TRUE(VelIRshShader_var(hMaterial)) << "a shader as well, for whom that counts nothing";
   EXPECT_FALSE(ParentOf(hRoot)) << "a rendering material";
   const VelIRshShader_var hBoxed = MakeShader();
   ASSERT_EQ(Aggregate(MakeOdd("VelTestBox"), "Content", hBoxed.Get()), S_OK);
