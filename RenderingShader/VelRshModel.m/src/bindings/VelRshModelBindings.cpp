@@ -7,6 +7,7 @@
 #include "RenderingShader/VelRshModel.m/src/bindings/DelegatingExtensionVelIRmaMappingManipulatorVelRmaShader.h"
 #include "RenderingShader/VelRshModel.m/src/bindings/DelegatingExtensionVelIRshShaderResourcesVelRmaShader.h"
 #include "RenderingShader/VelRshModel.m/src/bindings/VelERshParameterGeneric_VelIModelEvents.h"
+#include "RenderingShader/VelRshModel.m/src/bindings/VelERshShaderFeature_VelIRmaVisuTextureCoordinateTransformation.h"
 #include "RenderingShader/VelRshModel.m/src/bindings/VelERshShaderGeneric_VelIModelEvents.h"
 #include "RenderingShader/VelRshModel.m/src/model/VelRshShaderFeature.h"
 #include "RenderingShader/VelRshModel.m/src/parameters/VelRshParameterBoolean.h"
@@ -30,6 +31,7 @@
 #include "RenderingShader/interfaces/TIEVelIRshShaderSubscriber.h"
 #include "platform/events/TIEVelIModelEvents.h"
 #include "platform/featuremodeler/TIELifeCycleObject.h"
+#include "platform/viewer/TIEVelIRmaVisuTextureCoordinateTransformation.h"
 
 #define VEL_GRID_FILE "RenderingShader/VelRshModel.m/src/bindings/VelRshModel.def"
 #include "platform/objectmodeler/VelBindingGrid.inl"

@@ -73,6 +73,7 @@ class VelRshParameterBase : public VelSpecLifeCycleObjectExt {
 
  protected:
   VelCallbackManager& Callbacks() noexcept { return callbacks_; }
+  const VelTraceHandle& Channel() const noexcept { return trace_; }
 
   bool IsClosed() noexcept { return GetComponentState() == VelComponentState::Closed; }
 

@@ -37,6 +37,9 @@ class VelRshParameterInteger final : public VelRshParameterValue<VelRshIntegerVa
   ~VelRshParameterInteger() override;
   const VelMetaClass& GetMetaObject() const noexcept override { return MetaObject(); }
   static const VelMetaClass& MetaObject() noexcept;
+
+  void OnShaderValue(VelEventName iEvent, VelBaseUnknown* iPublisher, VelNotification* ioNotification) override;
+  void OnShaderConnection(VelEventName iEvent, VelBaseUnknown* iPublisher, VelNotification* ioNotification) override;
 };
 
 #endif  // RENDERINGSHADER_VELRSHMODEL_M_SRC_PARAMETERS_VELRSHPARAMETERINTEGER_H

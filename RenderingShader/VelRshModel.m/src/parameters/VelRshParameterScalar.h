@@ -40,6 +40,9 @@ class VelRshParameterScalar final : public VelRshParameterValue<VelRshScalarValu
   ~VelRshParameterScalar() override;
   const VelMetaClass& GetMetaObject() const noexcept override { return MetaObject(); }
   static const VelMetaClass& MetaObject() noexcept;
+
+  void OnShaderValue(VelEventName iEvent, VelBaseUnknown* iPublisher, VelNotification* ioNotification) override;
+  void OnShaderConnection(VelEventName iEvent, VelBaseUnknown* iPublisher, VelNotification* ioNotification) override;
 };
 
 #endif  // RENDERINGSHADER_VELRSHMODEL_M_SRC_PARAMETERS_VELRSHPARAMETERSCALAR_H

@@ -4,7 +4,10 @@
 #ifndef RENDERINGSHADER_VELRSHMODEL_M_SRC_PARAMETERS_VELRSHPARAMETERTEXTURE_H
 #define RENDERINGSHADER_VELRSHMODEL_M_SRC_PARAMETERS_VELRSHPARAMETERTEXTURE_H
 
+#include "RenderingShader/VelRshModel.m/include/VelRshModelApi.h"
 #include "RenderingShader/VelRshModel.m/src/model/VelRshParameterBase.h"
+
+class VelPixelImage;
 
 /// Implements a feature of start-up VelRmaTexture.
 class VelRshParameterTexture final : public VelRshParameterBase {
@@ -19,6 +22,18 @@ class VelRshParameterTexture final : public VelRshParameterBase {
   HRESULT SetValue(VelBaseUnknown* iDocument);
   HRESULT GetValue(VelBaseUnknown** oDocument);
   HRESULT IsTexture() { return S_OK; }
+
+  /// Reads the path that the appearance keeps for the default slot into which the texture is plugged.
+  /// @param[out] oPath empty when there is none
+  /// @return S_OK; E_FAIL when the texture is not plugged into a default slot of a material with an appearance; else
+  /// the
+  ///         code of the appearance
+  VEL_RSH_MODEL_API HRESULT GetCachedPath(VelUnicodeString& oPath);
+
+  /// Reads the image that the appearance keeps for that slot.
+  /// @param[out] oImage with one reference for the caller; null when there is none
+  /// @return as GetCachedPath; E_FAIL also when oImage is null
+  VEL_RSH_MODEL_API HRESULT GetCachedImage(VelPixelImage** oImage);
 
  private:
   void Publish(const VelBaseUnknown_var& iPrevious, const VelBaseUnknown_var& iNext);
