@@ -5,6 +5,7 @@
 #ifndef TESTS_RENDERINGSHADER_GRAPHS_GRAPHTEST_H
 #define TESTS_RENDERINGSHADER_GRAPHS_GRAPHTEST_H
 
+#include <functional>
 #include <map>
 #include <string>
 
@@ -52,6 +53,7 @@ class GraphTest : public RshModelTest {
   void Know(const char* iName, VelBaseUnknown* iObject) {
     features_[iName] = VelISpecObject_var(iObject);
     recorder_.Name(iObject, iName);
+    if (onKnown_) onKnown_(iObject);
   }
 
   void Append(const char* iShader, const VelISpecAttrKey* iList, const char* iElement) {
@@ -71,6 +73,7 @@ class GraphTest : public RshModelTest {
   HRESULT Write(const char* iName, float iValue) { return Parameter(iName)->SetValue(&iValue); }
 
   DeliveryRecorder recorder_;
+  std::function<void(VelBaseUnknown*)> onKnown_;  ///< Called with each object as soon as it is made.
   std::map<std::string, VelISpecObject_var> features_;
 };
 
