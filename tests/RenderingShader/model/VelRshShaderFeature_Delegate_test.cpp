@@ -244,14 +244,20 @@ TEST_F(VelRshShaderFeatureDelegateTest, Delegate_IsSetInTheDelegation_BeforeTheO
 TEST_F(VelRshShaderFeatureDelegateTest, Delegate_GoesWhenTheShaderIsClosed) {
   int ended = 0;
   delegates_->onEnd = [&] { ++ended; };
-  const VelIRshShader_var hShader = MakeShader("VelTestType");
-  const VelIDelegation_var hDelegation(hShader);
-  ASSERT_EQ(DelegateTypeOf(hShader.Get()), "VelTestType_ext");
-  EXPECT_EQ(Remove(hShader.Get()), S_OK);
-  EXPECT_EQ(ended, 1);
-  VelBaseUnknown_var hDelegate;
-  EXPECT_EQ(hDelegation->GetDelegate(hDelegate.Receive()), E_FAIL);
-  EXPECT_FALSE(hDelegate);
+  for (const bool isDelegationFirst : {false, true}) {
+    const VelISpecObject_var hFeature = Make("VelRmaShader");
+    const VelIDelegation_var hEarly(isDelegationFirst ? hFeature : nullptr);
+    const VelIRshShader_var hShader(hFeature);
+    ASSERT_EQ(hShader->SetType("VelTestType"), S_OK);
+    const VelIDelegation_var hDelegation(hShader);
+    ASSERT_EQ(DelegateTypeOf(hShader.Get()), "VelTestType_ext");
+    ended = 0;
+    EXPECT_EQ(Remove(hShader.Get()), S_OK);
+    EXPECT_EQ(ended, 1);
+    VelBaseUnknown_var hDelegate;
+    EXPECT_EQ(hDelegation->GetDelegate(hDelegate.Receive()), E_FAIL);
+    EXPECT_FALSE(hDelegate);
+  }
 }
 
 TEST_F(VelRshShaderFeatureDelegateTest, Delegate_GoesThoughTheEndComesInsideOfAnOperation) {

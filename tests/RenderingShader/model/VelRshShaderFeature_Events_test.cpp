@@ -87,17 +87,17 @@ class VelRshShaderFeatureEventsTest : public ShaderFeatureTest {
 
   /// Expects that parameters hear all events of a shader.
   static void ExpectHearers(const VelIRshShader_var& iShader, const Texts& iParameters) {
-    for (VelEventName event : shaderEvents()) {
+    for (VelEventName event : ShaderEventNames()) {
       EXPECT_EQ(Subscribers(ManagerOf(iShader), event), iParameters) << event;
     }
   }
 
-  static std::vector<VelEventName> shaderEvents() {
+  static std::vector<VelEventName> ShaderEventNames() {
     return {ShaderEvents::PARAMETER_VALUE_UPDATED(), ShaderEvents::PARAMETER_CONNECTION_UPDATED(),
             ShaderEvents::FORWARDED_PARAMETER_VALUE_UPDATED(), ShaderEvents::FORWARDED_PARAMETER_CONNECTION_UPDATED()};
   }
 
-  static std::vector<VelEventName> parameterEvents() {
+  static std::vector<VelEventName> ParameterEventNames() {
     return {ParameterEvents::VALUE_UPDATED(),
             ParameterEvents::CONNECTION_UPDATED(),
             ParameterEvents::FORWARD_PARAMETER_VALUE_UPDATED(),
@@ -187,7 +187,7 @@ TEST_F(VelRshShaderFeatureEventsTest, OwnParameter_IsToldOn_WithWhatItTold) {
   const VelIRshParameter_var hParameter = Add(hShader, "a", "VelRmaScalar");
   VelRshModelNotificationParameterConnectionChanged notification(nullptr, nullptr);
   for (VelNotification* told : {static_cast<VelNotification*>(&notification), static_cast<VelNotification*>(nullptr)}) {
-    for (VelEventName event : parameterEvents()) {
+    for (VelEventName event : ParameterEventNames()) {
       DeliveryRecorder recorder;
       ManagerOf(hParameter).Dispatch(event, told, hParameter.Get());
       Texts expected;
@@ -240,7 +240,7 @@ TEST_F(VelRshShaderFeatureEventsTest, ConnectedParameter_IsToldOn_OnOneOccasionP
   // The same text in another place is another event.
   const std::string copies[] = {ParameterEvents::FORWARD_PARAMETER_VALUE_UPDATED(),
                                 ParameterEvents::CONNECTION_UPDATED()};
-  std::vector<VelEventName> events = parameterEvents();
+  std::vector<VelEventName> events = ParameterEventNames();
   events.insert(events.end(), {copies[0].c_str(), copies[1].c_str(), nullptr});
   for (const Receiver& receiver : receivers) {
     for (VelEventName event : events) {
@@ -348,7 +348,7 @@ TEST_F(VelRshShaderFeatureEventsTest, ParameterOfAnotherModule_HearsItsShader_Th
   EXPECT_EQ(VelTestForeign::Instance().calls,
             Texts{"OnShaderValue PARAMETER_VALUE_UPDATED VelRshModelNotificationShaderParameterChanged"});
   VelTestForeign::Instance().calls.clear();
-  for (VelEventName event : shaderEvents()) ManagerOf(hShader).Dispatch(event, nullptr, hShader.Get());
+  for (VelEventName event : ShaderEventNames()) ManagerOf(hShader).Dispatch(event, nullptr, hShader.Get());
   EXPECT_EQ(VelTestForeign::Instance().calls,
             (Texts{"OnShaderValue PARAMETER_VALUE_UPDATED null", "OnShaderConnection PARAMETER_CONNECTION_UPDATED null",
                    "OnShaderValue FORWARDED_PARAMETER_VALUE_UPDATED null",
@@ -360,7 +360,7 @@ TEST_F(VelRshShaderFeatureEventsTest, ShaderOfAnotherModule_HearsTheParameterCon
   const VelIRshShader_var hForeign(MakeOdd("VelTestForeignShader"));
   ASSERT_EQ(hParameter->SetConnection(hForeign.Get()), S_OK);
   VelTestForeign::Instance().calls.clear();
-  for (VelEventName event : parameterEvents()) ManagerOf(hParameter).Dispatch(event, nullptr, hParameter.Get());
+  for (VelEventName event : ParameterEventNames()) ManagerOf(hParameter).Dispatch(event, nullptr, hParameter.Get());
   EXPECT_EQ(VelTestForeign::Instance().calls,
             (Texts{"OnParameterValue VALUE_UPDATED null", "OnParameterConnection CONNECTION_UPDATED null",
                    "OnParameterValue FORWARD_PARAMETER_VALUE_UPDATED null",

@@ -33,7 +33,7 @@ VelRshShaderFeature::VelRshShaderFeature(VelComponent& iFeature) : VelImplementa
 /// The subscriptions of both sides have ended with the component's state: nobody has to be unsubscribed.
 VelRshShaderFeature::~VelRshShaderFeature() {
   classTrace.Print(lifeLevel, "(VelRshShaderFeature::~VelRshShaderFeature) Destructor\n");
-  ReleaseDelegate();
+  delegate_ = nullptr;
   classTrace.Print(lifeLevel, "(VelRshShaderFeature::~VelRshShaderFeature) Done\n");
 }
 
@@ -44,8 +44,9 @@ void VelRshShaderFeature::OnAttached() {
   VelRshComponentList::Release(parameters);
 }
 
+/// The component's delegation hears of it, too, and lets go of the delegate by itself.
 void VelRshShaderFeature::OnComponentStateChange(VelComponentState iFrom, VelComponentState iTo) {
-  if (iTo == VelComponentState::Closed) ReleaseDelegate();
+  if (iTo == VelComponentState::Closed) delegate_ = nullptr;
   VelImplementation::OnComponentStateChange(iFrom, iTo);
 }
 

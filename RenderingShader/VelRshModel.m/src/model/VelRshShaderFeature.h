@@ -86,7 +86,6 @@ class VelRshShaderFeature final : public VelImplementation {
 
   void EnsureDelegate();
   HRESULT CreateDelegate(const VelString& iLateType);
-  void ReleaseDelegate() noexcept;
 
   /// The type without making the delegate first.
   HRESULT ReadType(VelString& oType);

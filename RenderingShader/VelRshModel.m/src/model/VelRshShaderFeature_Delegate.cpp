@@ -49,10 +49,3 @@ HRESULT VelRshShaderFeature::CreateDelegate(const VelString& iLateType) {
   VelRshComponentList::Release(parameters);
   return listed;
 }
-
-void VelRshShaderFeature::ReleaseDelegate() noexcept {
-  if (!delegate_) return;
-  const VelBaseUnknown_var hDelegate = std::move(delegate_);
-  const VelIDelegation_var hDelegation(this);
-  if (hDelegation) static_cast<void>(hDelegation->SetDelegate(nullptr));
-}
