@@ -3,6 +3,7 @@
 /// @file VelRbaImageServices.cpp Hands the work on images to the provider that the dictionary names.
 #include "platform/images/VelRbaImageServices.h"
 
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -64,8 +65,8 @@ VelPathParts VelRbaImageServices::SplitPath(const VelUnicodeString& iPath) {
 void VelRbaImageServices::ExtractPathList(const VelUnicodeString& iText, VelListValVelUnicodeString& ioList) {
   if (iText.IsEmpty()) return;
   // A copy: the text may be an element of the list, which moves when the list grows.
-  const VelUnicodeString text = iText;
-  std::string_view rest = text.View();
+  const std::string text(iText.View());
+  std::string_view rest = text;
   for (std::size_t end = rest.find(';'); end != std::string_view::npos; end = rest.find(';')) {
     ioList.Append(VelUnicodeString(rest.substr(0, end)));
     rest.remove_prefix(end + 1);
