@@ -28,6 +28,7 @@ constexpr const char* interfaces[] = {
     "VelIRshShaderPrivate",
     "VelIRshShaderPublisher",
     "VelIModelEvents",
+    "VelIRmaVisuTextureCoordinateTransformation",
     "VelIHardwareMaterial",
     "VelIOpenGLShaderMaterial",
     "VelIRmaMappingManipulator",
@@ -41,94 +42,36 @@ constexpr const char* interfaces[] = {
     "VelIRenderingMaterial",
 };
 
-/// A cell is T for a forwarder to the row's class, P and S for one to the model events of parameters and of shaders, B
-/// for the delegating extension of the column, F for what the feature modeler answers for every feature, a point for
-/// nothing.
+/// A cell is T for a forwarder to the row's class, P and S for one to the model events of parameters and of shaders, C
+/// for one to the coordinates of textures, B for the delegating extension of the column, F for what the feature modeler
+/// answers for every feature, a point for nothing.
 struct Row {
   const char* className;
   const char* startUp;
   const char* cells;
 };
 
+// clang-format off
 constexpr Row rows[] = {
-    //                                                   parameter    shader  events
-    //                                                     |          |       | delegated  never
-    {"VelRshParameterBase", "VelRmaParameter", /*       */
-     "TT...T"
-     "...."
-     "."
-     "....."
-     "......"},
-    {"VelRshParameterBoolean", "VelRmaBoolean", /*      */
-     "TTTTTT"
-     "...."
-     "P"
-     "....."
-     "......"},
-    {"VelRshParameterColor", "VelRmaColor", /*          */
-     "TTTTTT"
-     "...."
-     "P"
-     "....."
-     "......"},
-    {"VelRshParameterInteger", "VelRmaInteger", /*      */
-     "TTTTTT"
-     "...."
-     "P"
-     "....."
-     "......"},
-    {"VelRshParameterScalar", "VelRmaScalar", /*        */
-     "TTTTTT"
-     "...."
-     "P"
-     "....."
-     "......"},
-    {"VelRshParameterString", "VelRmaString", /*        */
-     "TTTTTT"
-     "...."
-     "P"
-     "....."
-     "......"},
-    {"VelRshParameterTexture", "VelRmaTexture", /*      */
-     "TTTTTT"
-     "...."
-     "P"
-     "....."
-     "......"},
-    {"VelRshParameterVector", "VelRmaVector", /*        */
-     "TTTTTT"
-     "...."
-     "P"
-     "....."
-     "......"},
-    {"VelRshParameterMatrix", "VelRmaMatrix", /*        */
-     "TTT..T"
-     "...."
-     "P"
-     "....."
-     "......"},
-    {"VelRshParameterLightProfile", "VelRmaLightProfile",
-     "TT...T"
-     "...."
-     "."
-     "....."
-     "......"},
-    {"VelRshParameterShader", "VelRmaVoid", /*          */
-     "TT...T"
-     "...."
-     "."
-     "....."
-     "......"},
-    {"VelRshShaderFeature", "VelRmaShader", /*          */
-     "T....F"
-     "TTTT"
-     "S"
-     "BBBBB"
-     "......"},
+    // class                        start-up              parameter  shader   extensions     never bound
+    {"VelRshParameterBase",          "VelRmaParameter",    "TT...T"   "...."   ".." "....."   "......"},
+    {"VelRshParameterBoolean",       "VelRmaBoolean",      "TTTTTT"   "...."   "P." "....."   "......"},
+    {"VelRshParameterColor",         "VelRmaColor",        "TTTTTT"   "...."   "P." "....."   "......"},
+    {"VelRshParameterInteger",       "VelRmaInteger",      "TTTTTT"   "...."   "P." "....."   "......"},
+    {"VelRshParameterScalar",        "VelRmaScalar",       "TTTTTT"   "...."   "P." "....."   "......"},
+    {"VelRshParameterString",        "VelRmaString",       "TTTTTT"   "...."   "P." "....."   "......"},
+    {"VelRshParameterTexture",       "VelRmaTexture",      "TTTTTT"   "...."   "P." "....."   "......"},
+    {"VelRshParameterVector",        "VelRmaVector",       "TTTTTT"   "...."   "P." "....."   "......"},
+    {"VelRshParameterMatrix",        "VelRmaMatrix",       "TTT..T"   "...."   "P." "....."   "......"},
+    {"VelRshParameterLightProfile",  "VelRmaLightProfile", "TT...T"   "...."   ".." "....."   "......"},
+    {"VelRshParameterShader",        "VelRmaVoid",         "TT...T"   "...."   ".." "....."   "......"},
+    {"VelRshShaderFeature",          "VelRmaShader",       "T....F"   "TTTT"   "SC" "BBBBB"   "......"},
 };
+// clang-format on
 
 constexpr const char* parameterEvents = "VelERshParameterGeneric_VelIModelEvents";
 constexpr const char* shaderEvents = "VelERshShaderGeneric_VelIModelEvents";
+constexpr const char* coordinates = "VelERshShaderFeature_VelIRmaVisuTextureCoordinateTransformation";
 
 /// The order in which the start-ups share the model events of parameters.
 const Texts sharers{"VelRmaScalar",  "VelRmaInteger", "VelRmaBoolean", "VelRmaColor",
@@ -147,6 +90,8 @@ std::string ClassOf(const Row& iRow, std::size_t iColumn) {
       return parameterEvents;
     case 'S':
       return shaderEvents;
+    case 'C':
+      return coordinates;
     case 'B':
       return DelegatingExtension(interfaces[iColumn]);
     case 'F':
@@ -190,6 +135,7 @@ TEST_F(VelRshModelGridTest, DictionaryFile_HoldsTheGridAndNothingElse) {
     const std::string bound = std::string("bind ") + iRow.startUp + " " + interfaces[iColumn];
     const char cell = iRow.cells[iColumn];
     if (cell == 'B') expected.insert(bound + " BOA Reference " + ClassOf(iRow, iColumn));
+    if (cell == 'C') expected.insert(bound + " TIE Reference " + ClassOf(iRow, iColumn));
     if (cell == 'P' && iRow.startUp != sharers.front()) return;
     if (cell == 'T' || cell == 'P' || cell == 'S') expected.insert(bound + " TIE Component " + ClassOf(iRow, iColumn));
   });
@@ -280,11 +226,11 @@ TEST_F(VelRshModelGridTest, Library_ExportsTheFunctionsOfTheGridAndNoOthers) {
     const std::string name = interfaces[iColumn] + ClassOf(iRow, iColumn);
     const char cell = iRow.cells[iColumn];
     if (cell == 'B') extensions.insert("CreateBOA" + name);
-    if (cell != 'T' && cell != 'P' && cell != 'S') return;
+    if (cell == '.' || cell == 'B' || cell == 'F') return;
     forwarders.insert("CreateTIE" + name);
     classes.insert("CreateExtension" + ClassOf(iRow, iColumn));
   });
-  EXPECT_EQ(forwarders.size(), 62U) << "60 of classes, 2 of model events";
+  EXPECT_EQ(forwarders.size(), 63U) << "60 of classes, 3 of extensions";
   EXPECT_EQ(extensions.size(), 5U);
   std::set<std::string> expected = classes;
   expected.merge(forwarders);
@@ -311,10 +257,11 @@ TEST_F(VelRshModelGridTest, MetaClasses_KnowNameBaseKindAndFramework) {
     cases.push_back({sharer.c_str(), "VelIModelEvents", parameterEvents, "VelExtIModelEvents", 2});
   }
   cases.push_back({"VelRmaShader", "VelIModelEvents", shaderEvents, "VelExtIModelEvents", 2});
+  cases.push_back({"VelRmaShader", "VelIRmaVisuTextureCoordinateTransformation", coordinates, "VelImplementation", 2});
   Texts delegating;
-  for (std::size_t column = 11; column < 16; ++column) delegating.push_back(DelegatingExtension(interfaces[column]));
+  for (std::size_t column = 12; column < 17; ++column) delegating.push_back(DelegatingExtension(interfaces[column]));
   for (std::size_t i = 0; i < delegating.size(); ++i) {
-    cases.push_back({"VelRmaShader", interfaces[11 + i], delegating[i].c_str(), interfaces[11 + i], 3});
+    cases.push_back({"VelRmaShader", interfaces[12 + i], delegating[i].c_str(), interfaces[12 + i], 3});
   }
   for (const Case& each : cases) {
     SCOPED_TRACE(std::string(each.startUp) + " " + each.interfaceName);
