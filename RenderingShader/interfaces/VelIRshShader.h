@@ -71,9 +71,9 @@ class VEL_RSH_INTERFACES_API VelIRshShader : public VelBaseUnknown {
   /// @param[in] iStartUp one of the typed start-ups, for instance "VelRmaScalar"
   /// @param[out] oParameter with one reference for the caller; null on failure, unless it is only the name that could
   ///             not be written
-  /// @return S_OK; E_FAIL when oParameter is null, the shader is in no container, the start-up is unknown, or the name
-  ///         cannot be written; E_NOINTERFACE when the start-up is none of a parameter. After the last two the new
-  ///         feature stays in the list.
+  /// @return S_OK; E_FAIL when oParameter is null, the shader is in no container, cannot take a parameter in, or the
+  ///         start-up is unknown; E_NOINTERFACE when the start-up is none of a parameter; the parameter's own code when
+  ///         its name cannot be written. After the last two the new feature stays in the list.
   virtual HRESULT AddParameter(const VelString& iName, const VelString& iStartUp, VelIRshParameter** oParameter) = 0;
 
   /// Lists the parameters in order: every feature of the list, each with one reference for the caller.

@@ -18,16 +18,8 @@ class ShaderFeatureTest : public RshModelTest {
  protected:
   static constexpr const char* channel = "VelRshShaderFeature";
 
-  void SetUp() override {
-    RshModelTest::SetUp();
-    foreign_.emplace(VEL_TEST_LIBRARY_FOLDER);
-    ASSERT_EQ(VelICatalogManager_var(hContainer_)->LoadCatalog(VEL_TEST_SHADER_CATALOG), S_OK);
-  }
-  void TearDown() override {
-    CloseContainer();
-    foreign_.reset();
-    RshModelTest::TearDown();
-  }
+  void SetUp() override;
+  void TearDown() override;
 
   /// @return a feature of VelTestShaderCatalog
   static VelISpecObject_var MakeOddIn(const VelIContainer_var& iContainer, const char* iType) {
