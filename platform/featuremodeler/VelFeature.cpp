@@ -12,6 +12,7 @@
 #include "platform/featuremodeler/VelFeatureReference.h"
 #include "platform/featuremodeler/VelFeatureSlab.h"
 #include "platform/featuremodeler/VelInternedText.h"
+#include "platform/featuremodeler/VelSpecChanges.h"
 #include "platform/featuremodeler/VelSpecDocumentLinkHooks.h"
 #include "platform/objectmodeler/VelBuilder.h"
 #include "platform/objectmodeler/VelComponentAccess.h"
@@ -62,6 +63,7 @@ void VelFeature::ClearValue(unsigned iAttribute) noexcept {
       break;
     case VelSpecAttrKind::Components:
       for (VelFeature* component : *slot.components) component->father_ = nullptr;
+      VelSpecChanges::Note();
       delete slot.components;
       break;
     case VelSpecAttrKind::Document:
@@ -88,6 +90,7 @@ HRESULT VelFeature::Append(unsigned iAttribute, VelFeature& ioComponent) {
   slot.components->push_back(&ioComponent);
   SetValuated(iAttribute);
   ioComponent.father_ = this;
+  VelSpecChanges::Note();
   VelBuilder::CatchUpWithFathers(ioComponent);
   return S_OK;
 }
@@ -99,6 +102,7 @@ HRESULT VelFeature::TakeOut(unsigned iAttribute, VelFeature& ioComponent) {
   if (place == components.end()) return E_FAIL;
   components.erase(place);
   ioComponent.father_ = nullptr;
+  VelSpecChanges::Note();
   // A list is valuated while it has elements.
   if (components.empty()) ClearValue(iAttribute);
   return S_OK;

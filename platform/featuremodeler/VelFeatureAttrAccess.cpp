@@ -8,6 +8,7 @@
 #include "platform/featuremodeler/LifeCycleObject.h"
 #include "platform/featuremodeler/VelFeatureReference.h"
 #include "platform/featuremodeler/VelInternedText.h"
+#include "platform/featuremodeler/VelSpecChanges.h"
 
 namespace {
 
@@ -107,6 +108,7 @@ HRESULT VelFeatureAttrAccess::SetText(const VelISpecAttrKey* iKey, const VelUnic
   Feature().ClearValue(attribute);
   Feature().Slot(attribute).text = text;
   Feature().SetValuated(attribute);
+  VelSpecChanges::Note();
   return S_OK;
 }
 

@@ -8,9 +8,10 @@
 #include "RenderingShader/interfaces/VelIRshParameterImmLayout.h"
 #include "RenderingShader/interfaces/VelIRshShaderResources.h"
 #include "platform/configuration/VelRbaConfiguration.h"
+#include "platform/events/VelNotification.h"
 #include "platform/trace/VelClassTrace.h"
 
-static_assert(sizeof(VelRshParameterBase) == 80, "What is built for each parameter that is touched costs 80 bytes");
+static_assert(sizeof(VelRshParameterBase) == 96, "What is built for each parameter that is touched costs 96 bytes");
 
 namespace {
 
@@ -31,6 +32,12 @@ VelRshParameterBase::~VelRshParameterBase() {
   classTrace.Print(lifeLevel, "(VelRshParameterBase::~VelRshParameterBase) Destructor\n");
   support_ = nullptr;
   classTrace.Print(lifeLevel, "(VelRshParameterBase::~VelRshParameterBase) Done\n");
+}
+
+VelRshParameterBase* VelRshParameterBase::From(VelBaseUnknown& iObject) noexcept {
+  VelBaseUnknown* implementation = iObject.GetImpl();
+  if (implementation == nullptr || !VelDerivesFrom(implementation->GetMetaObject(), MetaObject())) return nullptr;
+  return static_cast<VelRshParameterBase*>(implementation);
 }
 
 void VelRshParameterBase::OnComponentStateChange(VelComponentState iFrom, VelComponentState iTo) {

@@ -4,6 +4,7 @@
 #ifndef RENDERINGSHADER_VELRSHMODEL_M_SRC_MODEL_VELRSHPARAMETERBASE_H
 #define RENDERINGSHADER_VELRSHMODEL_M_SRC_MODEL_VELRSHPARAMETERBASE_H
 
+#include <cstdint>
 #include <memory>
 
 #include "RenderingShader/VelRshModel.m/src/services/VelRshAttribute.h"
@@ -17,6 +18,8 @@
 #include "platform/featuremodeler/VelSpecLifeCycleObjectExt.h"
 #include "platform/trace/VelTraceHandle.h"
 
+class VelRshTagRecord;
+
 /// Implements a feature of start-up VelRmaParameter, and is the base of what implements the typed start-ups: name,
 /// label, tags, the connection to a shader, and who listens. The value operations fail here; the typed classes hide
 /// them. The operations are those of the interfaces, where they are described.
@@ -28,6 +31,9 @@ class VelRshParameterBase : public VelSpecLifeCycleObjectExt {
   ~VelRshParameterBase() override;
   const VelMetaClass& GetMetaObject() const noexcept override { return MetaObject(); }
   static const VelMetaClass& MetaObject() noexcept;
+
+  /// @return the object behind a pointer when it is one of the component's own parameters, null for any other
+  static VelRshParameterBase* From(VelBaseUnknown& iObject) noexcept;
 
   void OnAttached() override;
   void OnComponentStateChange(VelComponentState iFrom, VelComponentState iTo) override;
@@ -68,6 +74,10 @@ class VelRshParameterBase : public VelSpecLifeCycleObjectExt {
   virtual void OnShaderValue(VelEventName iEvent, VelBaseUnknown* iPublisher, VelNotification* ioNotification);
   virtual void OnShaderConnection(VelEventName iEvent, VelBaseUnknown* iPublisher, VelNotification* ioNotification);
 
+  /// @return what the configuration says of this parameter's tags, to be used at once; null where that has to be read
+  ///         word by word: without a name, below a shader of another module, and with an unknown word
+  const VelRshTagRecord* FindTagRecord();
+
   /// @return what a parameter receives of the shader that owns it
   static const VelReceiverTable& ShaderReceivers() noexcept;
 
@@ -104,11 +114,15 @@ class VelRshParameterBase : public VelSpecLifeCycleObjectExt {
   void ConnectModelEvents(const VelIRshShader_var& iPrevious, const VelIRshShader_var& iNext);
   HRESULT TellHostOfConnection(const VelIRshShader_var& iPrevious, const VelIRshShader_var& iNext);
 
+  VelRshTagRecord* LookUpTagRecord();
+
   void ComputeLabel();
   static VelUnicodeString ReadLabel(const VelIRshShader_var& iShader, const VelString& iType, const VelString& iName);
 
   VelTraceHandle trace_;
   bool labelResolved_ = false;
+  std::uint64_t changesAtTagRecord_ = ~std::uint64_t{0};  ///< Those of features when tagRecord_ was found.
+  VelRshTagRecord* tagRecord_ = nullptr;
   std::unique_ptr<VelUnicodeString> label_;  ///< None is an empty label.
   VelIRshShaderSupport_var support_;
   VelCallbackManager callbacks_;

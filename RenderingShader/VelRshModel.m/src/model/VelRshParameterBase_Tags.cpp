@@ -4,8 +4,11 @@
 #include "RenderingShader/VelRshModel.m/include/VelRshReaderConfiguration.h"
 #include "RenderingShader/VelRshModel.m/include/VelRshReaderParameterName.h"
 #include "RenderingShader/VelRshModel.m/src/model/VelRshParameterBase.h"
+#include "RenderingShader/VelRshModel.m/src/model/VelRshShaderFeature.h"
+#include "RenderingShader/VelRshModel.m/src/model/VelRshTagRecord.h"
 #include "RenderingShader/VelRshModel.m/src/model/VelRshTagWords.h"
 #include "platform/base/VelCheck.h"
+#include "platform/featuremodeler/VelSpecChanges.h"
 
 namespace {
 
@@ -25,7 +28,28 @@ HRESULT VelRshParameterBase::GetTags(VelListVal<int>& oTags) {
   return S_OK;
 }
 
+const VelRshTagRecord* VelRshParameterBase::FindTagRecord() {
+  if (changesAtTagRecord_ != VelSpecChanges::Count()) {
+    tagRecord_ = LookUpTagRecord();
+    changesAtTagRecord_ = VelSpecChanges::Count();  // Read again: the look-up may have made the shader's delegate.
+  }
+  return tagRecord_ != nullptr && tagRecord_->IsUsable() ? tagRecord_ : nullptr;
+}
+
+/// Only the component's own shaders are known to change their type by their attributes alone.
+VelRshTagRecord* VelRshParameterBase::LookUpTagRecord() {
+  VelIRshShader_var hShader;
+  GetParentShader(hShader);
+  VelString name;
+  if (!hShader || FAILED(GetName(name))) return nullptr;
+  const VelBaseUnknown* implementation = hShader->GetImpl();
+  if (implementation == nullptr || &implementation->GetMetaObject() != &VelRshShaderFeature::MetaObject())
+    return nullptr;
+  return VelRshTagRecord::Of(VelRshReaderConfiguration()(*hShader), name);
+}
+
 HRESULT VelRshParameterBase::HasTag(Tag iTag) {
+  if (const VelRshTagRecord* record = FindTagRecord()) return record->Has(iTag) ? S_OK : E_FAIL;
   const VelIRshParameter_var hParameter(this);
   if (!hParameter) {
     VelCheck::Failed(noParameter, "hParameter", "VelIRshParameter not available");

@@ -21,11 +21,16 @@ constexpr Row rows[] = {
 #undef VEL_RSH_TAG
 };
 
+const Row* Find(const VelString& iWord) {
+  for (const Row& row : rows) {
+    if (iWord == row.word) return &row;
+  }
+  return nullptr;
+}
+
 /// Deliberately the tag "dpi" for a word that nobody knows: configurations of the field depend on it.
 VelIRshParameterPrivate::Tag TagOf(const VelString& iWord) {
-  for (const Row& row : rows) {
-    if (iWord == row.word) return row.tag;
-  }
+  if (const Row* row = Find(iWord)) return row->tag;
   VelCheck::Failed(unknownWord, "", "Could not parse tag", iWord.View());
   return VelIRshParameterPrivate::Tag::Dpi;
 }
@@ -36,6 +41,14 @@ std::optional<VelRshTagWords::Tag> VelRshTagWords::Next() {
   const VelString word = words_.Next();
   if (word.IsEmpty()) return std::nullopt;
   return TagOf(word);
+}
+
+bool VelRshTagWords::AreAllKnown(const VelString& iText) {
+  VelToken words(iText);
+  for (VelString word = words.Next(); !word.IsEmpty(); word = words.Next()) {
+    if (Find(word) == nullptr) return false;
+  }
+  return true;
 }
 
 std::optional<VelString> VelRshTagWords::FindText(const VelString& iConfiguration, const VelString& iParameter) {

@@ -22,6 +22,9 @@ class VelRshTagWords {
   ///         reported each time it is met.
   std::optional<Tag> Next();
 
+  /// @return true when every word of a text is in the vocabulary; nothing is reported
+  static bool AreAllKnown(const VelString& iText);
+
   /// Finds the text in a configuration.
   /// @return nothing when the configuration has none for the parameter
   static std::optional<VelString> FindText(const VelString& iConfiguration, const VelString& iParameter);

@@ -8,6 +8,7 @@
 #include "RenderingShader/VelRshModel.m/include/VelRshReaderParameterCollection.h"
 #include "RenderingShader/VelRshModel.m/src/model/VelRshParameterBase.h"
 #include "RenderingShader/VelRshModel.m/src/model/VelRshParameterTrace.h"
+#include "RenderingShader/VelRshModel.m/src/model/VelRshTagRecord.h"
 #include "RenderingShader/VelRshModel.m/src/parameters/VelRshPropagation.h"
 #include "RenderingShader/interfaces/VelRshModelNotificationParameterConnectionChanged.h"
 #include "RenderingShader/interfaces/VelRshModelNotificationParameterShaderChanged.h"
@@ -45,8 +46,9 @@ class VelRshParentShaderEvents {
   /// @return whether the change goes on to the shader that is connected to this parameter
   bool OnValue(VelEventName iEvent, const VelNotification* iNotification) const {
     if (!IsOpen()) return false;
-    if (iEvent == Events::FORWARDED_PARAMETER_VALUE_UPDATED()) FollowValue(iNotification);
+    if (iEvent == Events::FORWARDED_PARAMETER_VALUE_UPDATED() && MayTakePart()) FollowValue(iNotification);
     if (iEvent != Events::PARAMETER_VALUE_UPDATED()) return false;
+    if (!trace_.IsOn(VelTraceKind::Information)) return true;
     TraceOwn("PARAMETER_VALUE_UPDATED Current:");
     if (const auto* changed = VelNotificationCast<Changed>(iNotification)) Trace("\tUpdated: ", *changed);
     return true;
@@ -55,7 +57,7 @@ class VelRshParentShaderEvents {
   /// As OnValue.
   bool OnConnection(VelEventName iEvent, const VelNotification* iNotification) const {
     if (!IsOpen()) return false;
-    if (iEvent == Events::FORWARDED_PARAMETER_CONNECTION_UPDATED()) Pull(iNotification);
+    if (iEvent == Events::FORWARDED_PARAMETER_CONNECTION_UPDATED() && MayTakePart()) Pull(iNotification);
     if (iEvent != Events::PARAMETER_CONNECTION_UPDATED()) return false;
     TraceOwn("PARAMETER_CONNECTION_UPDATED Current:");
     const auto* changed = VelNotificationCast<Changed>(iNotification);
@@ -67,6 +69,13 @@ class VelRshParentShaderEvents {
 
  private:
   static bool IsOpen() { return !VelIRmaEditionMode::GetActivation(VelIRmaEditionMode::Mode::SilentPropagation); }
+
+  /// @return false where it is known that nothing comes of an event and nobody wants to read of it
+  bool MayTakePart() const {
+    if (trace_.IsOn(VelTraceKind::Information)) return true;
+    const VelRshTagRecord* own = parameter_.FindTagRecord();
+    return own == nullptr || (own->Tags() & MaskOfTags()) != 0;
+  }
 
   /// This parameter belongs to the connected shader; the changed one to the shader above.
   void FollowValue(const VelNotification* iNotification) const {
@@ -129,12 +138,22 @@ class VelRshParentShaderEvents {
   }
 
   bool HasTagInCommonWith(VelBaseUnknown& iOther) const {
+    const VelRshTagRecord* own = parameter_.FindTagRecord();
+    VelRshParameterBase* other = VelRshParameterBase::From(iOther);
+    const VelRshTagRecord* others = own != nullptr && other != nullptr ? other->FindTagRecord() : nullptr;
+    if (others != nullptr) return (own->Tags() & others->Tags() & MaskOfTags()) != 0;
     const VelIRshParameterPrivate_var hOther(&iOther);
     if (!hOther) return false;
     for (const Tag tag : Rules::tags) {
       if (SUCCEEDED(hOther->HasTag(tag)) && SUCCEEDED(parameter_.HasTag(tag))) return true;
     }
     return false;
+  }
+
+  static constexpr std::uint64_t MaskOfTags() noexcept {
+    std::uint64_t mask = 0;
+    for (const Tag tag : Rules::tags) mask |= std::uint64_t{1} << static_cast<unsigned>(tag);
+    return mask;
   }
 
   bool HasSameShaderAs(const Changed& iChanged) const {
