@@ -10,10 +10,11 @@
 
 class VelRshComponentList {
  public:
-  /// Appends the elements of a component list, in order, each with one reference for the caller.
+  /// Lists the elements of a component list, in order, each with one reference for the caller.
   /// @param[in] iAttribute one that is true
+  /// @param[out] oElements empty on failure; what it held before is not released
   /// @return S_OK; E_FAIL when the attribute is no component list or the feature is gone
-  static HRESULT Read(const VelRshAttribute& iAttribute, VelListPtrVelBaseUnknown& ioElements);
+  static HRESULT Read(const VelRshAttribute& iAttribute, VelListPtrVelBaseUnknown& oElements);
 
   /// Releases every element and empties the list.
   static void Release(VelListPtrVelBaseUnknown& ioElements) noexcept;
