@@ -7,6 +7,7 @@
 #include "platform/events/VelIModelEvents.h"
 #include "platform/featuremodeler/VelSpecDocumentLinkHooks.h"
 #include "platform/materials/VelRbaStringShaderModifyNotification.h"
+#include "platform/objectmodeler/VelDictionary.h"
 #include "tests/RenderingShader/RshModelTest.h"
 #include "tests/RenderingShader/fixtures/FakeDocument.h"
 #include "tests/RenderingShader/fixtures/FakeImageServices.h"
@@ -236,6 +237,23 @@ TEST_F(VelRshParameterDocumentTest, TextureClosedByASubscriber_IsSOkAndTheHostIs
   EXPECT_EQ(hTexture->SetValue(hFirst_.Get()), S_OK);
   EXPECT_EQ(host.notes, Texts{});
   EXPECT_EQ(images_.projectionCalls, 0);
+}
+
+TEST_F(VelRshParameterDocumentTest, TypesWithoutEvents_BringThemselvesUpToDateAfterEachWrite) {
+  const VelIRshParameter_var hProfile = Add(hShader_, "l", "VelRmaLightProfile");
+  const VelIRshParameter_var hMatrix = Add(hShader_, "m", "VelRmaMatrix");
+  const float matrix[16] = {1.0F};
+  // The update of what is no parameter any more reports itself, by which it can be seen.
+  const std::string dictionary = VEL_TEST_LIBRARY_FOLDER "/dictionaries/VelRshModel.dictionary";
+  ASSERT_EQ(VelDictionary::Unload(dictionary), S_OK);
+  for (const HRESULT expected : {S_OK, S_FALSE}) {
+    EXPECT_EQ(hProfile->SetValue(hFirst_.Get()), expected);
+    EXPECT_EQ(hMatrix->SetValue(matrix), expected);
+  }
+  ASSERT_EQ(checks_.Failures().size(), 2U);
+  for (const RecordedFailure& failure : checks_.Failures()) EXPECT_EQ(failure.line, 798U);
+  checks_.Clear();
+  EXPECT_EQ(VelDictionary::LoadFile(dictionary), S_OK);
 }
 
 TEST_F(VelRshParameterDocumentTest, LightProfile_HasNoEventsAndTellsNobody) {
