@@ -61,5 +61,9 @@ const N* VelNotificationCast(const VelNotification* iNotification) noexcept {
   if (iNotification == nullptr || !VelDerivesFrom(iNotification->GetMetaObject(), N::MetaObject())) return nullptr;
   return static_cast<const N*>(iNotification);
 }
+template <class N>
+N* VelNotificationCast(VelNotification* ioNotification) noexcept {
+  return const_cast<N*>(VelNotificationCast<N>(static_cast<const VelNotification*>(ioNotification)));
+}
 
 #endif  // PLATFORM_EVENTS_VELNOTIFICATION_H

@@ -81,7 +81,7 @@ TEST(VelNotificationTest, Cast_ToAClassThatItIsNot_IsNull) {
   EXPECT_EQ(VelNotificationCast<VelTestRename>(&modify), nullptr) << "a derived class";
   EXPECT_EQ(VelNotificationCast<VelTestPlain>(&modify), nullptr);
   EXPECT_EQ(VelNotificationCast<VelModelEntityNotification>(&plain), nullptr);
-  EXPECT_EQ(VelNotificationCast<VelNotification>(nullptr), nullptr);
+  EXPECT_EQ(VelNotificationCast<VelNotification>(static_cast<const VelNotification*>(nullptr)), nullptr);
 }
 
 TEST(VelModifyAttributTest, Fields_AreThoseOfTheConstruction) {

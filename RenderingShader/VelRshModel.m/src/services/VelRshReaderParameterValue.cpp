@@ -7,7 +7,7 @@
 
 namespace {
 
-using float4_t = VelRshReaderParameterValue::float4_t;
+using Float4 = VelRshReaderParameterValue::float4_t;
 
 bool IsOfType(const VelIRshParameter& iParameter, VelRshReaderParameterType::Type iType) {
   return VelRshReaderParameterType()(iParameter) == iType;
@@ -22,7 +22,7 @@ Value Read(const VelIRshParameter& iParameter, const Value& iNeutral) {
 
 /// Reads three or four floats; the fourth of three is 1.
 /// @return false when that fails
-bool ReadPacked(const VelIRshParameter& iParameter, float4_t& oValues) {
+bool ReadPacked(const VelIRshParameter& iParameter, Float4& oValues) {
   oValues = {0.0F, 0.0F, 0.0F, 1.0F};
   return SUCCEEDED(const_cast<VelIRshParameter&>(iParameter).GetValue({oValues.data(), oValues.size()}));
 }
@@ -49,7 +49,7 @@ VelRshReaderParameterValue::float3_t VelRshReaderParameterValue::asPackedScalar3
     const float scalar = asScalar(iParameter);
     return {scalar, scalar, scalar};
   }
-  float4_t values{};
+  Float4 values{};
   if (!ReadPacked(iParameter, values)) return {};
   return {values[0], values[1], values[2]};
 }
@@ -60,8 +60,8 @@ VelRshReaderParameterValue::float4_t VelRshReaderParameterValue::asPackedScalar4
     const float scalar = asScalar(iParameter);
     return {scalar, scalar, scalar, scalar};
   }
-  float4_t values{};
-  return ReadPacked(iParameter, values) ? values : float4_t{};
+  Float4 values{};
+  return ReadPacked(iParameter, values) ? values : Float4{};
 }
 
 VelUnicodeString VelRshReaderParameterValue::asUnicodeText(const VelIRshParameter& iParameter) const {
