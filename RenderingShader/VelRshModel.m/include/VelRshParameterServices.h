@@ -54,7 +54,7 @@ class VEL_RSH_MODEL_API VelRshParameterServices {
   /// @return true when a shown parameter of the shader is connected to a texture
   static bool IsTexturePresent(VelIRshShader* iShader);
 
-  /// Reads the parameter "dpi" of the shader two levels above a parameter's own.
+  /// Reads the parameter "dpi" of the shader that is the father of a parameter's father.
   /// @param[out] oDpi dots per inch; untouched without such a parameter
   /// @return E_FAIL, always: callers look at the out argument
   static HRESULT RetrieveDpi(VelIRshParameter* iParameter, int& oDpi);
@@ -72,9 +72,9 @@ class VEL_RSH_MODEL_API VelRshParameterServices {
   /// Finds a parameter beside another one.
   /// @param[in] iName not empty
   /// @param[out] oParameter with one reference for the caller; untouched when there is none
-  /// @return S_OK, also when there is none: the out argument tells; E_FAIL for null, an empty name, and without a
-  /// shader;
-  ///         else why its parameters cannot be listed
+  /// @return S_OK; where there is none, the code of the listing, which is S_OK as well unless it fails: the out
+  /// argument
+  ///         tells; E_FAIL for null, an empty name, and without a shader
   static HRESULT RetrieveParameter(VelIRshParameter* iParameter, VelString iName, VelIRshParameter** oParameter);
 
   /// Reads the value of a parameter beside another one.

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 /// @file VelRshParameterServices_Values.cpp Reads and writes values beside a parameter, by name.
 #include <memory>
+#include <utility>
 
 #include "RenderingShader/VelRshModel.m/include/VelRshParameterServices.h"
-#include "RenderingShader/VelRshModel.m/include/VelRshReaderParameterCollection.h"
 #include "RenderingShader/VelRshModel.m/src/services/VelRshComponentList.h"
 #include "RenderingShader/VelRshModel.m/src/services/VelRshFather.h"
 #include "platform/images/VelRbaImageServices.h"
@@ -18,19 +18,28 @@ VelIRshShader_var FatherShader(VelIRshParameter* iParameter) {
   return iParameter != nullptr ? VelIRshShader_var(VelRshFather(*iParameter)) : VelIRshShader_var();
 }
 
+/// @return true for a parameter whose name can be read and is the one asked for, embedded NULs included
+bool IsNamed(const VelIRshParameter_var& iParameter, const VelString& iName) {
+  VelString name;
+  return iParameter && SUCCEEDED(iParameter->GetName(name)) && name == iName;
+}
+
 /// Finds a shader's first parameter of a name.
-/// @param[out] oParameter empty where there is none
-/// @return the code of the listing; E_FAIL where it gives no list
-HRESULT FindByName(const VelIRshShader_var& iShader, const char* iName, VelIRshParameter_var& oParameter) {
+/// @param[out] oParameter empty where there is none, also where the listing gives no list
+/// @return the code of the listing
+HRESULT FindByName(const VelIRshShader_var& iShader, const VelString& iName, VelIRshParameter_var& oParameter) {
+  oParameter = nullptr;
   VelListPtrVelBaseUnknown* list = nullptr;
   const HRESULT listed = iShader->GetParameters(&list);
   const std::unique_ptr<VelListPtrVelBaseUnknown> owner(list);
-  if (FAILED(listed)) return listed;
-  if (list == nullptr) return E_FAIL;
-  VelRshReaderParameterCollection::Parameters parameters;
-  for (VelBaseUnknown* element : *list) parameters.emplace_back(element);
+  if (FAILED(listed) || list == nullptr) return listed;
+  for (VelBaseUnknown* element : *list) {
+    VelIRshParameter_var hParameter(element);
+    if (!IsNamed(hParameter, iName)) continue;
+    oParameter = std::move(hParameter);
+    break;
+  }
   VelRshComponentList::Release(*list);
-  oParameter = VelRshReaderParameterCollection()(parameters, iName);
   return listed;
 }
 
@@ -74,8 +83,9 @@ HRESULT VelRshParameterServices::RetrieveParameter(VelIRshParameter* iParameter,
   const VelIRshShader_var hShader = FatherShader(iParameter);
   if (!hShader) return E_FAIL;
   VelIRshParameter_var hFound;
-  VEL_RETURN_IF_FAILED(FindByName(hShader, iName.CString(), hFound));
-  if (hFound) *oParameter = hFound.Detach();
+  const HRESULT listed = FindByName(hShader, iName, hFound);
+  if (!hFound) return listed;
+  *oParameter = hFound.Detach();
   return S_OK;
 }
 
@@ -83,6 +93,6 @@ HRESULT VelRshParameterServices::RetrieveParameterValue(VelIRshParameter* iParam
                                                         VelRshValueTarget oValue) {
   if (oValue.IsNull()) return E_FAIL;
   VelIRshParameter_var hFound;
-  VEL_RETURN_IF_FAILED(RetrieveParameter(iParameter, std::move(iName), hFound.Receive()));
-  return hFound ? hFound->GetValue(oValue) : S_OK;
+  const HRESULT found = RetrieveParameter(iParameter, std::move(iName), hFound.Receive());
+  return hFound ? hFound->GetValue(oValue) : found;
 }
