@@ -2,14 +2,16 @@
 # SPDX-License-Identifier: Apache-2.0
 #
 # vel_dictionary(<target> GRID <file>): builds the dictionary file of a module from its binding grid, in the folder
-# lib/dictionaries of the build, beside the libraries' folder, and makes the target depend on it. The grid's path is the one by
-# which the target's own sources include it. Works for targets outside this repository too.
+# lib/dictionaries of the build, and makes the target depend on it. The file names the library by its place beside that folder,
+# so the target is put into lib. The grid's path is the one by which the target's own sources include it. Works for targets outside
+# this repository too, which include this file; docs/embedding.md shows one.
 set(VEL_BINDINGS_ROOT "${CMAKE_CURRENT_LIST_DIR}/.." CACHE INTERNAL "Where the platform's headers are found")
 
 function(vel_dictionary target)
   cmake_parse_arguments(ARG "" "GRID" "" ${ARGN})
   set(folder "${CMAKE_BINARY_DIR}/lib/dictionaries")
   file(MAKE_DIRECTORY "${folder}")
+  set_target_properties(${target} PROPERTIES LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
   set(printer "${target}_dictionary")
   set(source "${CMAKE_CURRENT_BINARY_DIR}/${printer}.cpp")
   set(dictionary "${folder}/${target}.dictionary")
