@@ -12,7 +12,12 @@
 
 VEL_RSH_INTERFACES_API extern const VelInterfaceId IID_VelIAlias;
 
-/// The label that people see. It is not persistent: without a label of its own, an object computes one.
+/// The label that people see. It is not persistent: without a label of its own, an object computes one when it is first
+/// asked, and keeps it whatever changes in messages and configuration.
+///
+/// A shader takes the message "Label" of the catalog that is named as its type, else the type. A parameter takes the
+/// text "label" of its shader's VelIRshShaderResources, else the value of "<name>.Label" in the configuration of the
+/// shader's type, else its name; one that is asked before it stands below a shader has none, and stays so.
 ///
 /// Implemented by: VelRshShaderFeature and every parameter.
 /// Thread: the application thread. Re-entrancy: none.

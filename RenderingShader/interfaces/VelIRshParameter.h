@@ -52,7 +52,8 @@ class VEL_RSH_INTERFACES_API VelIRshParameter : public VelBaseUnknown {
   /// @return S_OK; E_FAIL when the object is no feature
   virtual HRESULT GetType(VelString& oType) = 0;
 
-  /// Sets the value of a parameter of documents. The document is counted, the one before is given back.
+  /// Sets the value of a parameter of documents. The document is counted, the one before is given back. A bare nullptr
+  /// means this operation, whatever the parameter.
   /// @return S_OK; S_FALSE when it is the value already; E_NOINTERFACE when iDocument is null; E_FAIL
   virtual HRESULT SetValue(VelBaseUnknown* iDocument) = 0;
 
@@ -76,8 +77,9 @@ class VEL_RSH_INTERFACES_API VelIRshParameter : public VelBaseUnknown {
   /// @param[in] iShader null disconnects. A shader that nobody else is connected to any more is taken out of the nodes
   ///            of its father.
   /// @return S_OK; S_FALSE when it is connected already, which tells nobody; E_INVALIDARG when iShader is no feature;
-  ///         E_FAIL also when the shader that was connected before cannot be taken out of its father's nodes, or the
-  ///         name cannot be read for the notification, although the connection has changed then
+  ///         E_FAIL also when the shader that was connected before cannot be taken out of its father's nodes, for
+  ///         instance because it was never made a node, or the name cannot be read for the notification, although the
+  ///         connection has changed then
   virtual HRESULT SetConnection(VelIRshShader* iShader) = 0;
 
   /// @param[out] oShader the connected shader with one reference for the caller, null where there is none; may be null,

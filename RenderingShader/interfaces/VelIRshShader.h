@@ -63,8 +63,8 @@ class VEL_RSH_INTERFACES_API VelIRshShader : public VelBaseUnknown {
   virtual HRESULT GetVersion(std::uint32_t& oVersion) = 0;
 
   /// Appends a parameter that exists. It keeps its name.
-  /// @param[in] iParameter a feature without a father; null fails
-  /// @return S_OK; E_FAIL
+  /// @param[in] iParameter a feature without a father
+  /// @return S_OK; E_FAIL also when iParameter is null or has a father
   virtual HRESULT AppendParameter(VelIRshParameter* iParameter) = 0;
 
   /// Makes a parameter and appends it. Names may repeat.
@@ -83,7 +83,7 @@ class VEL_RSH_INTERFACES_API VelIRshShader : public VelBaseUnknown {
 
   /// Aggregates a shader as a node.
   /// @param[in] iNode a feature without a father
-  /// @return S_OK; E_FAIL also when iNode is null
+  /// @return S_OK; E_FAIL also when iNode is null or has a father
   virtual HRESULT AddNode(VelIRshShader* iNode) = 0;
 
   /// Takes a node out. It stays in its container.

@@ -13,7 +13,8 @@
 
 VEL_RSH_INTERFACES_API extern const VelInterfaceId IID_VelIRshShaderResources;
 
-/// Named texts by category.
+/// Named texts by category. The component itself asks for one only: category "label" with the name of a parameter,
+/// once, when the label of the parameter is first read. All others are between a module and its clients.
 ///
 /// Implemented by: extensions of a delegate's late type; a shader answers it by delegation.
 /// Thread: the application thread. Re-entrancy: none.

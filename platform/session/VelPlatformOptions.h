@@ -10,7 +10,8 @@
 /// The inputs of a session, all of them optional. Relative paths are looked for in the current folder, then in the
 /// search folders, in order.
 struct VelPlatformOptions {
-  /// Dictionary files, and folders whose ".dictionary" files are all loaded.
+  /// Dictionary files, and folders whose ".dictionary" files are all loaded. Nothing fails without one: queries are
+  /// then not answered. Configuration files need that of VelPlatformFiles.
   std::vector<std::string> dictionaries{};
 
   /// Catalog files, which containers can then load by the name of the file alone. docs/catalog.md describes them.

@@ -16,8 +16,10 @@
 /// makes the parameters of a shader. The feature's own name stays empty, since a parameter is known by its attribute
 /// "Name" and a shader by its type and place.
 ///
-/// Every failure is an empty handle and an error on the channel "VelRshModelFactoryFeature"; what was instantiated by
-/// then stays in the container, without a father.
+/// Every failure is an empty handle and an error on the channel "VelRshModelFactoryFeature", with one exception: a
+/// shader that was instantiated but does not answer VelIRshShader, as without the component's dictionary, is an empty
+/// handle alone ("VelDictionary" tells it, as an information). What was instantiated by then stays in the container,
+/// without a father.
 ///
 /// Thread: the application thread.
 class VEL_RSH_MODEL_API VelRshModelFactoryFeature {
