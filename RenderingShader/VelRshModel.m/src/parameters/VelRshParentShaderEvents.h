@@ -46,7 +46,7 @@ class VelRshParentShaderEvents {
   /// @return whether the change goes on to the shader that is connected to this parameter
   bool OnValue(VelEventName iEvent, const VelNotification* iNotification) const {
     if (!IsOpen()) return false;
-    if (iEvent == Events::FORWARDED_PARAMETER_VALUE_UPDATED() && MayTakePart()) FollowValue(iNotification);
+    if (iEvent == Events::FORWARDED_PARAMETER_VALUE_UPDATED()) FollowValue(iNotification);
     if (iEvent != Events::PARAMETER_VALUE_UPDATED()) return false;
     if (!trace_.IsOn(VelTraceKind::Information)) return true;
     TraceOwn("PARAMETER_VALUE_UPDATED Current:");
@@ -70,7 +70,7 @@ class VelRshParentShaderEvents {
  private:
   static bool IsOpen() { return !VelIRmaEditionMode::GetActivation(VelIRmaEditionMode::Mode::SilentPropagation); }
 
-  /// @return false where it is known that nothing comes of an event and nobody wants to read of it
+  /// @return false where it is known that nothing is pulled and nobody wants to read of it
   bool MayTakePart() const {
     if (trace_.IsOn(VelTraceKind::Information)) return true;
     const VelRshTagRecord* own = parameter_.FindTagRecord();
@@ -130,7 +130,6 @@ class VelRshParentShaderEvents {
     VelRshParameterTrace::Print("\t\tParent shader 's equivalent parameter: ", hEquivalent.Get());
     Value value{};
     HRESULT copied = hEquivalent->GetValue(&value);
-    if (SUCCEEDED(copied) && Rules::IsEndless(parameter_, value)) return;
     const VelRshPropagation propagation(parameter_);
     if (!propagation.MayGoOn()) return;
     if (SUCCEEDED(copied)) copied = parameter_.SetValue(VelRshValueSource(&value));
