@@ -51,7 +51,8 @@ HRESULT FindDefaultSlot(VelBaseUnknown& iMaterialShader, VelBaseUnknown& iTextur
   for (const VelIRshParameter_var& hParameter : VelRshReaderParameterCollection()(*hMaterial)) {
     VelIRshShader_var hConnected;
     VelString name;
-    if (FAILED(hParameter->GetConnection(hConnected.Receive())) || !hConnected->IsEqual(hTexture.Get())) continue;
+    if (FAILED(hParameter->GetConnection(hConnected.Receive())) || !hConnected) continue;
+    if (!hConnected->IsEqual(hTexture.Get())) continue;
     if (SUCCEEDED(hParameter->GetName(name))) oSlot = SlotOf(name);
     if (oSlot != noSlot) return S_OK;
   }
