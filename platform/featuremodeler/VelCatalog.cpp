@@ -58,14 +58,31 @@ void ReportError(const std::string& iText) {
   VelTraceHandle(channel).Error(VEL_HERE("platform/featuremodeler/VelCatalog"), "%s", iText);
 }
 
+bool IsAbsolute(const std::string& iFile) { return iFile.starts_with('/'); }
+
+/// @return the folders in which a relative path is looked for after the current one, in order
+std::vector<std::string> ListFolders() {
+  std::vector<std::string> folders = VelCatalogRegistry::Get().folders;
+  for (const std::string& folder : VelEnvironment::GetPaths("VEL_CATALOG_PATH")) folders.push_back(folder);
+  return folders;
+}
+
+void ReportNowhere(const std::string& iFile) {
+  if (IsAbsolute(iFile)) {
+    ReportError("the catalog '" + iFile + "' does not exist");
+    return;
+  }
+  std::string listed;
+  for (const std::string& folder : ListFolders()) listed += (listed.empty() ? "'" : ", '") + folder + "'";
+  ReportError("the catalog '" + iFile + "' is neither in the current folder nor in a folder of catalogs (" +
+              (listed.empty() ? "there is none" : listed) + ")");
+}
+
 /// @return the canonical path of a catalog file, empty when it is nowhere
 std::string Locate(const std::string& iFile) {
   std::vector<std::string> candidates{iFile};
-  if (!iFile.starts_with('/')) {
-    for (const std::string& folder : VelCatalogRegistry::Get().folders) candidates.push_back(folder + '/' + iFile);
-    for (const std::string& folder : VelEnvironment::GetPaths("VEL_CATALOG_PATH")) {
-      candidates.push_back(folder + '/' + iFile);
-    }
+  if (!IsAbsolute(iFile)) {
+    for (const std::string& folder : ListFolders()) candidates.push_back(folder + '/' + iFile);
   }
   std::string path;
   std::string cause;
@@ -189,7 +206,7 @@ const VelCatalog* VelCatalog::Load(const std::string& iFile) {
   VelCatalogRegistry& registry = VelCatalogRegistry::Get();
   const std::string path = Locate(iFile);
   if (path.empty()) {
-    ReportError("the catalog '" + iFile + "' is neither in the current folder nor in a folder of catalogs");
+    ReportNowhere(iFile);
     return nullptr;
   }
   if (const VelCatalog* known = registry.FindByPath(path)) return known;

@@ -162,15 +162,19 @@ TEST_F(VelCatalogTest, Name_IsLookedForInTheCurrentFolder_ThenInTheFolders_ThenI
 
 TEST_F(VelCatalogTest, FileThatIsNowhere_IsAnError) {
   VelCatalog::SetFolders({folder_.Path()});
+  const std::string notInFolders =
+      "' is neither in the current folder nor in a folder of catalogs ('" + folder_.Path() + "')";
+  const std::string notThere = "' does not exist";
   struct Case {
     const char* name;
     std::string file;
+    std::string cause;
   };
   const Case cases[] = {
-      {"name", "nowhere.feat"},
-      {"path", folder_.Path("nowhere.feat")},
-      {"in a folder that is a file", folder_.Write("file", "") + "/nowhere.feat"},
-      {"NUL in it", std::string("no\0where", 8)},
+      {"name", "nowhere.feat", notInFolders},
+      {"path", folder_.Path("nowhere.feat"), notThere},
+      {"in a folder that is a file", folder_.Write("file", "") + "/nowhere.feat", notThere},
+      {"NUL in it", std::string("no\0where", 8), notInFolders},
   };
   for (const Case& each : cases) {
     SCOPED_TRACE(each.name);
@@ -178,7 +182,7 @@ TEST_F(VelCatalogTest, FileThatIsNowhere_IsAnError) {
     ASSERT_EQ(diagnostics_.Entries().size(), 1U);
     const std::string text = diagnostics_.Entries().front().text;
     EXPECT_TRUE(text.starts_with("the catalog '")) << text;
-    EXPECT_TRUE(text.ends_with("' is neither in the current folder nor in a folder of catalogs")) << text;
+    EXPECT_TRUE(text.ends_with(each.cause)) << text;
     static_cast<void>(TakeErrors());
   }
 }
@@ -187,8 +191,14 @@ TEST_F(VelCatalogTest, AbsolutePath_IsNotLookedForInFolders) {
   static_cast<void>(folder_.Write("absolute.feat", Catalog("Absolute")));
   VelCatalog::SetFolders({folder_.Path()});
   EXPECT_EQ(VelCatalog::Load("/absolute.feat"), nullptr);
-  EXPECT_EQ(TakeErrors(),
-            Texts({"the catalog '/absolute.feat' is neither in the current folder nor in a folder of catalogs"}));
+  EXPECT_EQ(TakeErrors(), Texts({"the catalog '/absolute.feat' does not exist"}));
+}
+
+TEST_F(VelCatalogTest, RelativePathWithoutAnyFolder_IsAnErrorThatSaysSo) {
+  VelCatalog::SetFolders({});
+  EXPECT_EQ(VelCatalog::Load("nowhere.feat"), nullptr);
+  EXPECT_EQ(TakeErrors(), Texts({"the catalog 'nowhere.feat' is neither in the current folder nor in a folder of "
+                                 "catalogs (there is none)"}));
 }
 
 TEST_F(VelCatalogTest, FileThatCannotBeRead_IsAnError) {
