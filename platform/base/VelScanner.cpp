@@ -4,6 +4,7 @@
 #include "platform/base/VelScanner.h"
 
 #include <charconv>
+#include <cstdint>
 #include <limits>
 
 namespace {
@@ -20,42 +21,49 @@ bool IsDigit(char iByte, bool iHexadecimal) noexcept {
 }
 
 /// How far a number without sign and prefix reaches: digits with at most one point, then an exponent, which may be cut
-/// off. Its length, and the decimal or binary place of its first digit that is not zero.
+/// off.
 struct Extent {
   std::size_t digits = 0;  ///< How many there are in front of the exponent.
   std::size_t end = 0;
-  bool isLarge = false;  ///< Whether a number that cannot be represented is too large rather than too small.
+  /// The decimal or binary place of the first digit that is not zero, exponent included. Its sign tells whether a
+  /// number that cannot be represented is too large or too small.
+  std::int64_t magnitude = 0;
 };
 
-/// Whether an exponent follows, and it is negative; what overflows is decided by its sign alone, since no mantissa of a
-/// text that is read here makes up for an exponent that does.
+/// Adds the exponent, when one follows. One that no text could make up for stands for all that are larger.
 void MeasureExponent(std::string_view iText, bool iHexadecimal, Extent& ioExtent) noexcept {
+  constexpr std::int64_t beyondAnyText = 1'000'000'000'000'000;
   const char mark = iHexadecimal ? 'p' : 'e';
   if (ioExtent.end == iText.size() || LowerCase(iText[ioExtent.end]) != mark) return;
   ++ioExtent.end;
-  if (ioExtent.end < iText.size() && (iText[ioExtent.end] == '+' || iText[ioExtent.end] == '-')) {
-    ioExtent.isLarge = iText[ioExtent.end] == '+';
-    ++ioExtent.end;
-  } else {
-    ioExtent.isLarge = true;
+  const bool hasSign = ioExtent.end < iText.size() && (iText[ioExtent.end] == '+' || iText[ioExtent.end] == '-');
+  const bool isNegative = hasSign && iText[ioExtent.end] == '-';
+  if (hasSign) ++ioExtent.end;
+  std::int64_t exponent = 0;
+  for (; ioExtent.end < iText.size() && IsDigit(iText[ioExtent.end], false); ++ioExtent.end) {
+    if (exponent < beyondAnyText) exponent = 10 * exponent + (iText[ioExtent.end] - '0');
   }
-  while (ioExtent.end < iText.size() && IsDigit(iText[ioExtent.end], false)) ++ioExtent.end;
+  ioExtent.magnitude += isNegative ? -exponent : exponent;
 }
 
 Extent Measure(std::string_view iText, bool iHexadecimal) noexcept {
   Extent extent;
   bool hasPoint = false;
+  bool isZero = true;
   for (; extent.end < iText.size(); ++extent.end) {
     const char byte = iText[extent.end];
     if (byte == '.' && !hasPoint) {
       hasPoint = true;
     } else if (IsDigit(byte, iHexadecimal)) {
       ++extent.digits;
-      extent.isLarge = extent.isLarge || (!hasPoint && byte != '0');
+      if (isZero && hasPoint) --extent.magnitude;
+      if (!isZero && !hasPoint) ++extent.magnitude;
+      isZero = isZero && byte == '0';
     } else {
       break;
     }
   }
+  if (iHexadecimal) extent.magnitude *= 4;
   if (extent.digits != 0) MeasureExponent(iText, iHexadecimal, extent);
   return extent;
 }
@@ -124,5 +132,5 @@ std::optional<double> VelScanner::Digits() noexcept {
   const std::from_chars_result converted = std::from_chars(left_.data(), left_.data() + extent.end, number, format);
   left_.remove_prefix(extent.end);
   if (converted.ec != std::errc::result_out_of_range) return number;
-  return extent.isLarge ? std::numeric_limits<double>::infinity() : 0.0;
+  return extent.magnitude > 0 ? std::numeric_limits<double>::infinity() : 0.0;
 }

@@ -93,6 +93,22 @@ TEST(VelScannerTest, Real_ReadsWhatIsNoNumber) {
   EXPECT_TRUE(std::isnan(*real));
 }
 
+/// Whether a number is too large or too small takes both its digits and its exponent.
+TEST(VelScannerTest, Real_OfManyDigits_IsMeasuredTogetherWithItsExponent) {
+  const std::string zeros(1000, '0');
+  EXPECT_EQ(VelScanner("1" + zeros + "e-400").Real(), infinite);
+  EXPECT_EQ(VelScanner("1" + zeros + "e-1001").Real(), 0.1);
+  EXPECT_EQ(VelScanner("1" + zeros + "e-1400").Real(), 0.0);
+  EXPECT_EQ(VelScanner("0." + zeros + "1e500").Real(), 0.0);
+  EXPECT_EQ(VelScanner("0." + zeros + "1e+1002").Real(), 10.0);
+  EXPECT_EQ(VelScanner("0." + zeros + "1e1400").Real(), infinite);
+  EXPECT_EQ(VelScanner("0x1" + zeros + "p-2000").Real(), infinite);
+  EXPECT_EQ(VelScanner("0x1" + zeros + "p-3999").Real(), 2.0);
+  EXPECT_EQ(VelScanner("0x." + zeros + "1p2000").Real(), 0.0);
+  EXPECT_EQ(VelScanner("1e-99999999999999999999").Real(), 0.0);
+  EXPECT_EQ(VelScanner("1e99999999999999999999").Real(), infinite);
+}
+
 TEST(VelScannerTest, Real_OfManyDigits_IsInfiniteOrZero) {
   const std::string many(400, '9');
   EXPECT_EQ(VelScanner(many).Real(), infinite);
