@@ -41,7 +41,14 @@ class VelRshParameterTextureDefaultSlotTest : public RshModelTest {
   }
 
   FakeAppearanceCache& Cache() { return FakeRenderingMaterial::Of(*hAppearance_).cache; }
-  VelRshParameterTexture& Texture() { return static_cast<VelRshParameterTexture&>(*hTexture_->GetImpl()); }
+
+  // The component exports the two reads, but not what a sanitizer would know the class by.
+  __attribute__((no_sanitize("vptr"))) HRESULT ReadPath(VelUnicodeString& oPath) {
+    return static_cast<VelRshParameterTexture*>(hTexture_->GetImpl())->GetCachedPath(oPath);
+  }
+  __attribute__((no_sanitize("vptr"))) HRESULT ReadImage(VelPixelImage** oImage) {
+    return static_cast<VelRshParameterTexture*>(hTexture_->GetImpl())->GetCachedImage(oImage);
+  }
 
   /// Adds a parameter to the material's shader.
   VelIRshParameter_var AddSlot(const char* iName) { return Add(hMaterial_, iName, "VelRmaColor"); }
@@ -52,10 +59,10 @@ class VelRshParameterTextureDefaultSlotTest : public RshModelTest {
   void ExpectSlot(std::uint32_t iSlot) {
     VelUnicodeString path("before");
     static_cast<void>(Cache().Take());
-    EXPECT_EQ(Texture().GetCachedPath(path), iSlot != 0 ? S_OK : E_FAIL);
+    EXPECT_EQ(ReadPath(path), iSlot != 0 ? S_OK : E_FAIL);
     EXPECT_EQ(path, VelUnicodeString(iSlot != 0 ? std::to_string(iSlot) : std::string()));
     VelPixelImage* image = Before();
-    EXPECT_EQ(Texture().GetCachedImage(&image), iSlot != 0 ? S_OK : E_FAIL);
+    EXPECT_EQ(ReadImage(&image), iSlot != 0 ? S_OK : E_FAIL);
     EXPECT_EQ(image != nullptr, iSlot != 0);
     const std::string slot = std::to_string(iSlot);
     EXPECT_EQ(Cache().Take(), iSlot != 0 ? (Texts{"GetPath(" + slot + ")", "GetImage(" + slot + ")"}) : Texts{});
@@ -172,19 +179,19 @@ TEST_F(VelRshParameterTextureDefaultSlotTest, CodeOfTheCache_IsTheAnswer) {
   Cache().getPathCode = E_INVALIDARG;
   Cache().getImageCode = E_UNEXPECTED;
   VelUnicodeString path("before");
-  EXPECT_EQ(Texture().GetCachedPath(path), E_INVALIDARG);
+  EXPECT_EQ(ReadPath(path), E_INVALIDARG);
   EXPECT_TRUE(path.IsEmpty());
   VelPixelImage* image = Before();
-  EXPECT_EQ(Texture().GetCachedImage(&image), E_UNEXPECTED);
+  EXPECT_EQ(ReadImage(&image), E_UNEXPECTED);
   EXPECT_EQ(image, nullptr);
   Cache().getPathCode = S_FALSE;
-  EXPECT_EQ(Texture().GetCachedPath(path), S_OK);
+  EXPECT_EQ(ReadPath(path), S_OK);
   Cache().getPathCode = Cache().getImageCode = S_OK;
   Cache().entries.erase(2);
   path = "before";
-  EXPECT_EQ(Texture().GetCachedPath(path), E_FAIL);
+  EXPECT_EQ(ReadPath(path), E_FAIL);
   EXPECT_TRUE(path.IsEmpty());
-  EXPECT_EQ(Texture().GetCachedImage(&image), E_FAIL);
+  EXPECT_EQ(ReadImage(&image), E_FAIL);
   EXPECT_EQ(image, nullptr);
 }
 
@@ -192,9 +199,9 @@ TEST_F(VelRshParameterTextureDefaultSlotTest, EntryWithoutImage_IsASuccess) {
   Plug("default_slot_height");
   Cache().entries[2] = {"path", nullptr};
   VelPixelImage* image = Before();
-  EXPECT_EQ(Texture().GetCachedImage(&image), S_OK);
+  EXPECT_EQ(ReadImage(&image), S_OK);
   EXPECT_EQ(image, nullptr);
-  EXPECT_EQ(Texture().GetCachedImage(nullptr), E_FAIL);
+  EXPECT_EQ(ReadImage(nullptr), E_FAIL);
 }
 
 }  // namespace
