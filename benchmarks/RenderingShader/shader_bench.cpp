@@ -12,6 +12,8 @@
 
 #include "RenderingShader/VelRshModel.m/include/VelRshModelFactoryFeature.h"
 #include "RenderingShader/VelRshModel.m/include/VelRshReaderParameterCollection.h"
+#include "RenderingShader/interfaces/VelIRshParameterPrivate.h"
+#include "platform/configuration/VelRbaConfiguration.h"
 #include "platform/featuremodeler/VelCatalog.h"
 #include "platform/featuremodeler/VelISpecObject.h"
 #include "platform/objectmodeler/VelDictionary.h"
@@ -83,6 +85,52 @@ void WriteScalarBesideConnection(benchmark::State& ioState) {
   WriteEachTime(ioState, scene.First(hShader));
 }
 BENCHMARK(WriteScalarBesideConnection)->Arg(1)->Arg(20)->Arg(200);
+
+/// The same with a tag on the written parameter and on the last one of the sub-shader, which takes the value over.
+void WriteScalarThatIsFollowed(benchmark::State& ioState) {
+  const Scene scene;
+  Expect(VelRbaConfiguration::SetValue("BasicMaterial", "followed.Tag", "scale_u"));
+  const VelIRshShader_var hShader = scene.MakeShader(ioState.range(0) - 1);
+  const VelIRshParameter_var hFollowed = scene.Add(hShader, "followed");
+  float above = 0.5F;
+  Expect(hFollowed->SetValue(&above));
+  const VelIRshShader_var hNode = scene.MakeShader(ioState.range(0) - 1);
+  const VelIRshParameter_var hFollower = scene.Add(hNode, "followed");
+  Expect(hShader->AddNode(hNode.Get()));
+  const VelIRshParameter_var hConnected = scene.Add(hShader, "connected");
+  Expect(hConnected->SetConnection(hNode.Get()));
+  WriteEachTime(ioState, hFollowed);
+  float below = -1.0F;
+  Expect(hFollowed->GetValue(&above));
+  Expect(hFollower->GetValue(&below));
+  if (above != below) std::abort();
+}
+BENCHMARK(WriteScalarThatIsFollowed)->Arg(2)->Arg(20)->Arg(200);
+
+/// One parameter is asked over and over whether it has a tag; nothing changes in between.
+void TestTagHeld(benchmark::State& ioState) {
+  const Scene scene;
+  Expect(VelRbaConfiguration::SetValue("BasicMaterial", "scale_u.Tag", "diffuse scale_u"));
+  const VelIRshShader_var hShader = scene.MakeShader();
+  const VelIRshParameterPrivate_var hPrivate(scene.Add(hShader, "scale_u"));
+  Expect(hPrivate->HasTag(VelIRshParameterPrivate::Tag::ScaleU));
+  for (auto _ : ioState) benchmark::DoNotOptimize(hPrivate->HasTag(VelIRshParameterPrivate::Tag::ScaleU));
+}
+BENCHMARK(TestTagHeld);
+
+/// The same after any text of any feature was written, so that shader and name are read again.
+void TestTagAfterAText(benchmark::State& ioState) {
+  const Scene scene;
+  Expect(VelRbaConfiguration::SetValue("BasicMaterial", "scale_u.Tag", "diffuse scale_u"));
+  const VelIRshShader_var hShader = scene.MakeShader();
+  const VelIRshParameterPrivate_var hPrivate(scene.Add(hShader, "scale_u"));
+  const VelIRshParameter_var hOther = scene.Add(hShader, "other");
+  for (auto _ : ioState) {
+    Expect(hOther->SetName("other"));
+    benchmark::DoNotOptimize(hPrivate->HasTag(VelIRshParameterPrivate::Tag::ScaleU));
+  }
+}
+BENCHMARK(TestTagAfterAText);
 
 /// A write that changes nothing, which tells nobody.
 void WriteSameScalar(benchmark::State& ioState) {
