@@ -235,7 +235,7 @@ TEST_F(VelRshModelGridTest, Library_ExportsTheFunctionsOfTheGridAndNoOthers) {
   std::set<std::string> expected = classes;
   expected.merge(forwarders);
   expected.merge(extensions);
-  EXPECT_EQ(EntriesOf(VEL_TEST_LIBRARY_FOLDER "/libVelRshModel.so"), expected);
+  EXPECT_EQ(EntriesOf(VEL_TEST_NM, VEL_TEST_LIBRARY_FOLDER "/libVelRshModel.so"), expected);
 }
 
 TEST_F(VelRshModelGridTest, MetaClasses_KnowNameBaseKindAndFramework) {

@@ -110,7 +110,7 @@ TEST_F(VelRshParentShaderEventsValuesTest, SameValueAbove_TellsNobody) {
 
 TEST_F(VelRshParentShaderEventsValuesTest, FailingSetter_IsAnErrorWithTheSource) {
   Connect();
-  const ValuelessParameters valueless(VEL_TEST_LIBRARY_FOLDER);
+  const ValuelessParameters valueless(VEL_TEST_LIBRARY_FOLDER, VEL_TEST_VALUELESS_CATALOG);
   const struct {
     const char* startUp;
     const char* valueless;

@@ -10,10 +10,11 @@
 #include <set>
 #include <string>
 
+/// @param[in] iLister the program that lists symbols, "nm"
 /// @param[in] iLibrary the path of a shared library
 /// @return the symbols of C linkage that the dictionary looks for and that the library exports
-inline std::set<std::string> EntriesOf(const std::string& iLibrary) {
-  const std::string command = std::string("'") + VEL_TEST_NM + "' -D --defined-only '" + iLibrary + "'";
+inline std::set<std::string> EntriesOf(const std::string& iLister, const std::string& iLibrary) {
+  const std::string command = "'" + iLister + "' -D --defined-only '" + iLibrary + "'";
   const std::unique_ptr<FILE, int (*)(FILE*)> pipe(::popen(command.c_str(), "r"), &::pclose);
   std::set<std::string> names;
   std::array<char, 1024> line{};

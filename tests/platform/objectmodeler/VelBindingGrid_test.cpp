@@ -54,7 +54,7 @@ TEST(VelBindingGridTest, Library_ExportsTheFunctionsOfItsGridAndNoOthers) {
       "CreateTIEVelITestTextVelTestGridChoice",
       "CreateBOAVelITestTextVelTestGridLabel",
   };
-  EXPECT_EQ(EntriesOf(BuiltLibrary("VelTestGrid")), expected);
+  EXPECT_EQ(EntriesOf(VEL_TEST_NM, BuiltLibrary("VelTestGrid")), expected);
 }
 
 /// The table of the module, as a host that links it would name it.

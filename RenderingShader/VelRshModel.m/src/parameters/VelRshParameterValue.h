@@ -49,8 +49,13 @@ class VelRshParameterValue : public VelRshParameterBase {
   HRESULT GetValue(VelRshValueTarget oValue) {
     if (oValue.IsNull() || !VelRshFits<Value>(oValue)) return E_FAIL;
     const VelRshAttribute attribute(this, &Policy::Key);
-    if (!attribute) return E_FAIL;
-    return ReadInto(attribute, oValue);
+    Value value(Policy::fallback);
+    // A value that can be read is there: the common read is spared a test of the key beforehand.
+    if (attribute.HasAccess() && SUCCEEDED(Policy::Read(attribute, value))) {
+      VelRshGive(std::move(value), oValue);
+      return S_OK;
+    }
+    return attribute ? ReadInto(attribute, oValue) : E_FAIL;
   }
 
  protected:

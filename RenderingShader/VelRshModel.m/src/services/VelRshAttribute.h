@@ -20,26 +20,27 @@ class VelRshAttribute {
 
   /// @param[in] iObject any pointer that stands for the feature; null has no attributes
   /// @param[in] iAccessor an accessor of VelKeySetVelRmaCatalog
-  VelRshAttribute(VelBaseUnknown* iObject, Accessor iAccessor) noexcept : hAccess_(iObject) {
-    if (!hAccess_) return;
-    const VelISpecAttrKey* key = iAccessor(hAccess_.Get());
-    if (hAccess_->TestAttrKey(key)) key_ = key;
-  }
+  VelRshAttribute(VelBaseUnknown* iObject, Accessor iAccessor) noexcept
+      : hAccess_(iObject), key_(hAccess_ ? iAccessor(hAccess_.Get()) : nullptr) {}
 
-  explicit operator bool() const noexcept { return key_ != nullptr; }
+  /// Tests the key.
+  explicit operator bool() const noexcept { return hAccess_ && hAccess_->TestAttrKey(key_); }
 
-  /// @return the feature's attributes; only for one that is true
+  /// @return false for what is no feature; then nothing is asked of it, not even for a value that may not be there
+  bool HasAccess() const noexcept { return static_cast<bool>(hAccess_); }
+
+  /// @return the feature's attributes; only for one that has access
   VelISpecAttrAccess* operator->() const noexcept { return hAccess_.Get(); }
 
-  /// @return the key; null for one that is false
+  /// @return the key; null while it cannot be resolved, which every operation refuses
   const VelISpecAttrKey* Key() const noexcept { return key_; }
 
   /// @return true when the feature has the attribute, and a value for it
-  bool IsValuated() const noexcept { return key_ != nullptr && hAccess_->IsValuated(key_); }
+  bool IsValuated() const noexcept { return hAccess_ && hAccess_->IsValuated(key_); }
 
  private:
   VelISpecAttrAccess_var hAccess_;
-  const VelISpecAttrKey* key_ = nullptr;
+  const VelISpecAttrKey* key_;
 };
 
 #endif  // RENDERINGSHADER_VELRSHMODEL_M_SRC_SERVICES_VELRSHATTRIBUTE_H
