@@ -3,6 +3,8 @@
 /// @file VelRmaRenderingMaterial.cpp Keeps the shader in a list of one, and the textures in eleven places.
 #include "platform/materials/VelRmaRenderingMaterial.h"
 
+#include <utility>
+
 #include "platform/featuremodeler/VelISpecAttrAccess.h"
 #include "platform/materials/VelRmaImageBudget.h"
 
@@ -57,12 +59,13 @@ void VelRmaRenderingMaterial::Clear(VelRmaImageEntry& ioEntry) noexcept {
 HRESULT VelRmaRenderingMaterial::SetEntry(std::uint32_t iSlot, const VelUnicodeString& iPath, VelPixelImage* iImage) {
   if (iSlot < 1 || iSlot > slotCount) return E_INVALIDARG;
   VelRmaImageEntry& entry = entries_[iSlot - 1];
-  const VelBaseUnknown_var hImage(iImage);  // Held, since the entry's own may be the last reference on it.
-  const VelUnicodeString path = iPath;
+  // Made before the old entry goes, of which path and image may be part.
+  VelRmaImageEntry next;
+  next.isSet = true;
+  next.path = iPath;
+  next.image = VelBaseUnknown_var(static_cast<VelBaseUnknown*>(iImage));
   Clear(entry);
-  entry.isSet = true;
-  entry.path = path;
-  entry.image = hImage;
+  entry = std::move(next);
   VelRmaImageBudget::Use(entry);
   return S_OK;
 }

@@ -15,10 +15,8 @@
 /// the neutral value that the operation names. Without state. Thread: the application thread.
 class VEL_RSH_MODEL_API VelRshReaderParameterValue {
  public:
-  // NOLINTBEGIN(readability-identifier-naming): the names by which renderers know them
   using float3_t = std::array<float, 3>;
   using float4_t = std::array<float, 4>;
-  // NOLINTEND(readability-identifier-naming)
 
   /// @return the boolean; false when it cannot be read
   bool asBoolean(const VelIRshParameter& iParameter) const;

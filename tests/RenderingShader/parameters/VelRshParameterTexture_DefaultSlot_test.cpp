@@ -24,7 +24,7 @@ class VelRshParameterTextureDefaultSlotTest : public RshModelTest {
     hShader_ = AddNode(hMaterial_);
     hTexture_ = Add(hShader_, "tex", "VelRmaTexture");
     VelPixelImage* image =
-        VelPixelImage::Create(1, 1, VelPixelImage::Format::Rgba8, VelPixelImage::ColorSpace::Linear, pixels_);
+        VelPixelImage::Create(1, 1, VelPixelImage::Format::Rgba8, VelPixelImage::ColorSpace::Linear, pixels);
     for (std::uint32_t slot = 0; slot <= 12; ++slot) {
       Cache().entries[slot] = {VelUnicodeString(std::to_string(slot)), VelBaseUnknown_var(image)};
     }
@@ -72,7 +72,7 @@ class VelRshParameterTextureDefaultSlotTest : public RshModelTest {
   /// A pointer that is not null and never followed.
   VelPixelImage* Before() { return VelPixelImage::From(Cache().entries[1].image.Get()); }
 
-  static constexpr std::byte pixels_[4] = {};
+  static constexpr std::byte pixels[4] = {};
   std::optional<FakeRenderingMaterialBindings> bindings_;
   VelISpecObject_var hAppearance_;
   VelIRshShader_var hMaterial_;
