@@ -41,7 +41,8 @@ class VelRshMappingReading {
   /// What a parameter contributes; the handle is empty for one that is not found.
   using Component = double (*)(const VelIRshParameter_var& iParameter, const VelTraceHandle& iTrace);
 
-  /// The longest name that a key can hold; what is longer is cut there.
+  /// The longest name that a key can hold. Keys are read as "%254s %254s" and "%lf %lf" of the C library would read
+  /// them in no locale, so that the rest of a longer name counts as the next one.
   static constexpr std::size_t nameLimit = 254;
 
   /// @param[in] iTrace the channel of the reader
