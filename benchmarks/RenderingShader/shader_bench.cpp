@@ -17,6 +17,8 @@
 #include "platform/featuremodeler/VelCatalog.h"
 #include "platform/featuremodeler/VelISpecObject.h"
 #include "platform/objectmodeler/VelDictionary.h"
+#include "platform/trace/VelTraceService.h"
+#include "platform/viewer/VelIRmaVisuTextureCoordinateTransformation.h"
 
 namespace {
 
@@ -167,6 +169,24 @@ void ReadScalarByName(benchmark::State& ioState) {
   }
 }
 BENCHMARK(ReadScalarByName)->Arg(1)->Arg(20)->Arg(200);
+
+/// The texture transformation of a shader of so many parameters, of which the configuration names two for the scale.
+/// Without a material, so that the errors that tell so are part of it, on a channel that is off.
+void GetTransformation(benchmark::State& ioState) {
+  VelTraceService::SetSwitches("*=off");
+  const Scene scene;
+  Expect(VelRbaConfiguration::SetValue("BasicMaterial", "MappingScale.ParameterValue", "scale_0 scale_1"));
+  const VelIRshShader_var hShader = scene.MakeShader(ioState.range(0));
+  const VelIRmaVisuTextureCoordinateTransformation_var hMapping(hShader);
+  Vel3x3Matrix matrix;
+  for (auto _ : ioState) {
+    benchmark::DoNotOptimize(hMapping->GetTransformation(matrix));
+    benchmark::DoNotOptimize(matrix);
+  }
+  VelRbaConfiguration::Clear();
+  VelTraceService::Reset();
+}
+BENCHMARK(GetTransformation)->Arg(2)->Arg(20)->Arg(200);
 
 void ConnectAndDisconnect(benchmark::State& ioState) {
   const Scene scene;
