@@ -4,38 +4,31 @@
 #include "platform/materials/VelRmaMaterialFacets.h"
 
 #include "platform/featuremodeler/VelISpecAttrAccess.h"
+#include "platform/materials/VelRmaMaterialKeys.h"
 
-namespace {
-
-const VelISpecAttrKey* VersionKey() { return &VelISpecAttrKey::Of("Version", VelSpecAttrKind::Unsigned); }
-
-const VelISpecAttrKey* RealKey(const char* iAttribute) {
-  return &VelISpecAttrKey::Of(iAttribute, VelSpecAttrKind::Real);
-}
-
-}  // namespace
+using Keys = VelRmaMaterialKeys;
 
 VelImplementation* VelRmaPlasticForm::Create(VelComponent& ioMaterial) {
   const VelISpecAttrAccess_var hAttributes(&ioMaterial);
   if (!hAttributes) return nullptr;
-  const bool isKnown = hAttributes->IsValuated(VersionKey()) || hAttributes->IsValuated(RealKey("PlasticScale"));
+  const bool isKnown = hAttributes->IsValuated(Keys::Version()) || hAttributes->IsValuated(Keys::PlasticScale());
   return isKnown ? new VelRmaPlasticForm(ioMaterial) : nullptr;
 }
 
 HRESULT VelRmaPlasticForm::GetVersion(std::uint32_t& oVersion) {
   const VelISpecAttrAccess_var hAttributes(this);
-  return hAttributes ? hAttributes->GetUnsigned(VersionKey(), oVersion) : E_FAIL;
+  return hAttributes ? hAttributes->GetUnsigned(Keys::Version(), oVersion) : E_FAIL;
 }
 
 HRESULT VelRmaPlasticForm::GetScale(double& oScale) {
   const VelISpecAttrAccess_var hAttributes(this);
-  return hAttributes ? hAttributes->GetReal(RealKey("PlasticScale"), oScale) : E_FAIL;
+  return hAttributes ? hAttributes->GetReal(Keys::PlasticScale(), oScale) : E_FAIL;
 }
 
 VelImplementation* VelRmaSize::Create(VelComponent& ioMaterial) {
   const VelISpecAttrAccess_var hAttributes(&ioMaterial);
   if (!hAttributes) return nullptr;
-  const bool isKnown = hAttributes->IsValuated(RealKey("Width")) && hAttributes->IsValuated(RealKey("Height"));
+  const bool isKnown = hAttributes->IsValuated(Keys::Width()) && hAttributes->IsValuated(Keys::Height());
   return isKnown ? new VelRmaSize(ioMaterial) : nullptr;
 }
 
@@ -43,8 +36,8 @@ HRESULT VelRmaSize::GetSize(const VelUnit& iUnit, float& oWidth, float& oHeight)
   const VelISpecAttrAccess_var hAttributes(this);
   double width = 0.0;
   double height = 0.0;
-  if (!hAttributes || FAILED(hAttributes->GetReal(RealKey("Width"), width))) return E_FAIL;
-  if (FAILED(hAttributes->GetReal(RealKey("Height"), height))) return E_FAIL;
+  if (!hAttributes || FAILED(hAttributes->GetReal(Keys::Width(), width))) return E_FAIL;
+  if (FAILED(hAttributes->GetReal(Keys::Height(), height))) return E_FAIL;
   oWidth = static_cast<float>(width / iUnit.metersPerUnit);
   oHeight = static_cast<float>(height / iUnit.metersPerUnit);
   return S_OK;

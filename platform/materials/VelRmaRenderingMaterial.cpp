@@ -7,16 +7,9 @@
 
 #include "platform/featuremodeler/VelISpecAttrAccess.h"
 #include "platform/materials/VelRmaImageBudget.h"
+#include "platform/materials/VelRmaMaterialKeys.h"
 
-namespace {
-
-const VelISpecAttrKey* ShaderKey() { return &VelISpecAttrKey::Of("Shader", VelSpecAttrKind::Components); }
-
-const VelISpecAttrKey* RealKey(const char* iAttribute) {
-  return &VelISpecAttrKey::Of(iAttribute, VelSpecAttrKind::Real);
-}
-
-}  // namespace
+using Keys = VelRmaMaterialKeys;
 
 VelRmaRenderingMaterial::~VelRmaRenderingMaterial() {
   for (VelRmaImageEntry& entry : entries_) Clear(entry);
@@ -26,7 +19,7 @@ HRESULT VelRmaRenderingMaterial::GetShader(VelBaseUnknown** oShader) {
   if (oShader == nullptr) return E_INVALIDARG;
   *oShader = nullptr;
   const VelISpecAttrAccess_var hAttributes(this);
-  return hAttributes && SUCCEEDED(hAttributes->GetComponentAt(ShaderKey(), 1, oShader)) ? S_OK : E_FAIL;
+  return hAttributes && SUCCEEDED(hAttributes->GetComponentAt(Keys::Shader(), 1, oShader)) ? S_OK : E_FAIL;
 }
 
 /// The new shader is appended before the old one is taken out, so that one which cannot be carried changes nothing.
@@ -34,16 +27,16 @@ HRESULT VelRmaRenderingMaterial::SetShader(VelBaseUnknown* iShader) {
   const VelISpecAttrAccess_var hAttributes(this);
   if (!hAttributes) return E_FAIL;
   VelBaseUnknown_var hCarried;
-  static_cast<void>(hAttributes->GetComponentAt(ShaderKey(), 1, hCarried.Receive()));
+  static_cast<void>(hAttributes->GetComponentAt(Keys::Shader(), 1, hCarried.Receive()));
   const bool isSame = iShader != nullptr ? iShader->IsEqual(hCarried.Get()) : !hCarried;
   if (isSame) return S_FALSE;
-  if (iShader != nullptr && FAILED(hAttributes->AppendComponent(ShaderKey(), iShader))) return E_FAIL;
-  return hCarried ? hAttributes->RemoveComponent(ShaderKey(), hCarried.Get()) : S_OK;
+  if (iShader != nullptr && FAILED(hAttributes->AppendComponent(Keys::Shader(), iShader))) return E_FAIL;
+  return hCarried ? hAttributes->RemoveComponent(Keys::Shader(), hCarried.Get()) : S_OK;
 }
 
 HRESULT VelRmaRenderingMaterial::GetScaleFactor(double& oFactor) {
   const VelISpecAttrAccess_var hAttributes(this);
-  return hAttributes ? hAttributes->GetReal(RealKey("ScaleFactor"), oFactor) : E_FAIL;
+  return hAttributes ? hAttributes->GetReal(Keys::ScaleFactor(), oFactor) : E_FAIL;
 }
 
 VelRmaImageEntry* VelRmaRenderingMaterial::Find(std::uint32_t iSlot) noexcept {
@@ -102,21 +95,20 @@ HRESULT VelRmaRenderingMaterial::GetImage(std::uint32_t iSlot, VelPixelImage** o
 
 HRESULT VelRmaRenderingMaterial::SetVersion(std::uint32_t iVersion) {
   const VelISpecAttrAccess_var hAttributes(this);
-  const VelISpecAttrKey& key = VelISpecAttrKey::Of("Version", VelSpecAttrKind::Unsigned);
-  return hAttributes ? hAttributes->SetUnsigned(&key, iVersion) : E_FAIL;
+  return hAttributes ? hAttributes->SetUnsigned(Keys::Version(), iVersion) : E_FAIL;
 }
 
-HRESULT VelRmaRenderingMaterial::SetReal(const char* iAttribute, double iValue) {
+HRESULT VelRmaRenderingMaterial::SetReal(const VelISpecAttrKey* iKey, double iValue) {
   const VelISpecAttrAccess_var hAttributes(this);
-  return hAttributes ? hAttributes->SetReal(RealKey(iAttribute), iValue) : E_FAIL;
+  return hAttributes ? hAttributes->SetReal(iKey, iValue) : E_FAIL;
 }
 
-HRESULT VelRmaRenderingMaterial::SetPlasticScale(double iScale) { return SetReal("PlasticScale", iScale); }
+HRESULT VelRmaRenderingMaterial::SetPlasticScale(double iScale) { return SetReal(Keys::PlasticScale(), iScale); }
 
 HRESULT VelRmaRenderingMaterial::SetSize(const VelUnit& iUnit, double iWidth, double iHeight) {
   if (!(iWidth > 0.0) || !(iHeight > 0.0)) return E_INVALIDARG;
-  VEL_RETURN_IF_FAILED(SetReal("Width", iWidth * iUnit.metersPerUnit));
-  return SetReal("Height", iHeight * iUnit.metersPerUnit);
+  VEL_RETURN_IF_FAILED(SetReal(Keys::Width(), iWidth * iUnit.metersPerUnit));
+  return SetReal(Keys::Height(), iHeight * iUnit.metersPerUnit);
 }
 
-HRESULT VelRmaRenderingMaterial::SetScaleFactor(double iFactor) { return SetReal("ScaleFactor", iFactor); }
+HRESULT VelRmaRenderingMaterial::SetScaleFactor(double iFactor) { return SetReal(Keys::ScaleFactor(), iFactor); }

@@ -47,7 +47,7 @@ class VelRmaRenderingMaterial final : public VelImplementation {
   /// @return the entry of a slot; null for a slot outside 1 to 11, and for one without an entry
   VelRmaImageEntry* Find(std::uint32_t iSlot) noexcept;
   static void Clear(VelRmaImageEntry& ioEntry) noexcept;
-  HRESULT SetReal(const char* iAttribute, double iValue);
+  HRESULT SetReal(const VelISpecAttrKey* iKey, double iValue);
 
   std::array<VelRmaImageEntry, slotCount> entries_;
 };
