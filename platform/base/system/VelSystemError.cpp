@@ -38,3 +38,14 @@ std::string VelSystemError::CauseOf(int iErrno) {
   }
   return "system error " + std::to_string(iErrno);
 }
+
+HRESULT VelSystemError::Fail(int iErrno, std::string& oCause) {
+  oCause = CauseOf(iErrno);
+  return E_FAIL;
+}
+
+HRESULT VelSystemError::CheckPath(const std::string& iPath, std::string& oCause) {
+  if (iPath.find('\0') == std::string::npos) return S_OK;
+  oCause = "the path holds a NUL byte";
+  return E_INVALIDARG;
+}

@@ -33,18 +33,10 @@ HRESULT Fail(std::string iCause, std::string& oCause) {
   return E_FAIL;
 }
 
-HRESULT FailWith(int iErrno, std::string& oCause) { return Fail(VelSystemError::CauseOf(iErrno), oCause); }
-
-HRESULT CheckPath(const std::string& iPath, std::string& oCause) {
-  if (iPath.find('\0') == std::string::npos) return S_OK;
-  oCause = "the path holds a NUL byte";
-  return E_INVALIDARG;
-}
-
 /// Says whether an open file can be read to its end and is small enough, as far as its status tells.
 HRESULT CheckReadable(int iDescriptor, std::size_t iByteLimit, std::size_t& oSize, std::string& oCause) {
   struct stat status {};
-  if (::fstat(iDescriptor, &status) != 0) return FailWith(errno, oCause);
+  if (::fstat(iDescriptor, &status) != 0) return VelSystemError::Fail(errno, oCause);
   if (S_ISDIR(status.st_mode)) return Fail("is a folder", oCause);
   if (!S_ISREG(status.st_mode)) return Fail("is not a regular file", oCause);
   oSize = static_cast<std::size_t>(status.st_size);
@@ -56,10 +48,10 @@ HRESULT CheckReadable(int iDescriptor, std::size_t iByteLimit, std::size_t& oSiz
 
 HRESULT VelSystemFile::ReadWholeFile(const std::string& iPath, std::size_t iByteLimit, std::string& oBytes,
                                      std::string& oCause) {
-  VEL_RETURN_IF_FAILED(CheckPath(iPath, oCause));
+  VEL_RETURN_IF_FAILED(VelSystemError::CheckPath(iPath, oCause));
   // Without O_NONBLOCK the call would wait for somebody to open the other end of a fifo.
   const VelSystemDescriptor file(::open(iPath.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-  if (!file.IsOpen()) return FailWith(errno, oCause);
+  if (!file.IsOpen()) return VelSystemError::Fail(errno, oCause);
   std::size_t size = 0;
   VEL_RETURN_IF_FAILED(CheckReadable(file.Get(), iByteLimit, size, oCause));
 
@@ -72,7 +64,7 @@ HRESULT VelSystemFile::ReadWholeFile(const std::string& iPath, std::size_t iByte
     if (length == bytes.size()) bytes.resize(std::max(bytes.capacity(), length + chunkSize));
     const ssize_t count = ::read(file.Get(), bytes.data() + length, bytes.size() - length);
     if (count < 0 && errno == EINTR) continue;
-    if (count < 0) return FailWith(errno, oCause);
+    if (count < 0) return VelSystemError::Fail(errno, oCause);
     if (count == 0) break;
     length += static_cast<std::size_t>(count);
     if (length > iByteLimit) return Fail("is larger than " + std::to_string(iByteLimit) + " bytes", oCause);
@@ -84,11 +76,11 @@ HRESULT VelSystemFile::ReadWholeFile(const std::string& iPath, std::size_t iByte
 
 HRESULT VelSystemFile::ListFolder(const std::string& iPath, const std::string& iSuffix,
                                   std::vector<std::string>& oNames, std::string& oCause) {
-  VEL_RETURN_IF_FAILED(CheckPath(iPath, oCause));
+  VEL_RETURN_IF_FAILED(VelSystemError::CheckPath(iPath, oCause));
   const std::unique_ptr<DIR, CloseFolder> folder(::opendir(iPath.c_str()));
   if (folder == nullptr && errno == ENOENT) return Fail("no such folder", oCause);
   if (folder == nullptr && errno == ENOTDIR) return Fail("is not a folder", oCause);
-  if (folder == nullptr) return FailWith(errno, oCause);
+  if (folder == nullptr) return VelSystemError::Fail(errno, oCause);
 
   std::vector<std::string> names;
   errno = 0;
@@ -97,16 +89,16 @@ HRESULT VelSystemFile::ListFolder(const std::string& iPath, const std::string& i
     if (name != "." && name != ".." && name.ends_with(iSuffix)) names.emplace_back(name);
     errno = 0;
   }
-  if (errno != 0) return FailWith(errno, oCause);
+  if (errno != 0) return VelSystemError::Fail(errno, oCause);
   std::sort(names.begin(), names.end());
   oNames = std::move(names);
   return S_OK;
 }
 
 HRESULT VelSystemFile::CanonicalPath(const std::string& iPath, std::string& oPath, std::string& oCause) {
-  VEL_RETURN_IF_FAILED(CheckPath(iPath, oCause));
+  VEL_RETURN_IF_FAILED(VelSystemError::CheckPath(iPath, oCause));
   const std::unique_ptr<char, FreeText> path(::realpath(iPath.c_str(), nullptr));
-  if (path == nullptr) return FailWith(errno, oCause);
+  if (path == nullptr) return VelSystemError::Fail(errno, oCause);
   oPath = path.get();
   return S_OK;
 }

@@ -19,17 +19,6 @@ namespace {
 
 constexpr const char* uniqueLetters = "XXXXXX";
 
-HRESULT FailWith(int iErrno, std::string& oCause) {
-  oCause = VelSystemError::CauseOf(iErrno);
-  return E_FAIL;
-}
-
-HRESULT CheckPath(const std::string& iPath, std::string& oCause) {
-  if (iPath.find('\0') == std::string::npos) return S_OK;
-  oCause = "the path holds a NUL byte";
-  return E_INVALIDARG;
-}
-
 /// Writes to a new file beside a path. @return 0 or the error number; the file is gone again then
 int WriteBeside(std::string& ioPattern, std::string_view iBytes) {
   const VelSystemDescriptor file(::mkstemp(ioPattern.data()));
@@ -42,36 +31,36 @@ int WriteBeside(std::string& ioPattern, std::string_view iBytes) {
 }  // namespace
 
 HRESULT VelSystemWrite::ReplaceFile(const std::string& iPath, std::string_view iBytes, std::string& oCause) {
-  VEL_RETURN_IF_FAILED(CheckPath(iPath, oCause));
+  VEL_RETURN_IF_FAILED(VelSystemError::CheckPath(iPath, oCause));
   std::string beside = iPath + ".new-" + uniqueLetters;
-  if (const int error = WriteBeside(beside, iBytes); error != 0) return FailWith(error, oCause);
+  if (const int error = WriteBeside(beside, iBytes); error != 0) return VelSystemError::Fail(error, oCause);
   if (::rename(beside.c_str(), iPath.c_str()) == 0) return S_OK;
   const int error = errno;
   ::unlink(beside.c_str());
-  return FailWith(error, oCause);
+  return VelSystemError::Fail(error, oCause);
 }
 
 HRESULT VelSystemWrite::MakeFolder(const std::string& iPath, std::string& oCause) {
-  VEL_RETURN_IF_FAILED(CheckPath(iPath, oCause));
+  VEL_RETURN_IF_FAILED(VelSystemError::CheckPath(iPath, oCause));
   if (::mkdir(iPath.c_str(), S_IRWXU) == 0) return S_OK;
   const int error = errno;
   struct stat status {};
   const bool isFolder = error == EEXIST && ::stat(iPath.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
-  return isFolder ? S_FALSE : FailWith(error, oCause);
+  return isFolder ? S_FALSE : VelSystemError::Fail(error, oCause);
 }
 
 HRESULT VelSystemWrite::MakeUniqueFolder(const std::string& iPrefix, std::string& oPath, std::string& oCause) {
-  VEL_RETURN_IF_FAILED(CheckPath(iPrefix, oCause));
+  VEL_RETURN_IF_FAILED(VelSystemError::CheckPath(iPrefix, oCause));
   std::string pattern = iPrefix + uniqueLetters;
-  if (::mkdtemp(pattern.data()) == nullptr) return FailWith(errno, oCause);
+  if (::mkdtemp(pattern.data()) == nullptr) return VelSystemError::Fail(errno, oCause);
   oPath = pattern;
   return S_OK;
 }
 
 HRESULT VelSystemWrite::RemoveTree(const std::string& iPath, std::string& oCause) {
-  VEL_RETURN_IF_FAILED(CheckPath(iPath, oCause));
+  VEL_RETURN_IF_FAILED(VelSystemError::CheckPath(iPath, oCause));
   std::error_code error;
   const std::uintmax_t removed = std::filesystem::remove_all(iPath, error);
-  if (error) return FailWith(error.value(), oCause);
+  if (error) return VelSystemError::Fail(error.value(), oCause);
   return removed != 0 ? S_OK : S_FALSE;
 }
