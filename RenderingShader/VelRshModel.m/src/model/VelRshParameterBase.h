@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 
 #include "RenderingShader/VelRshModel.m/src/services/VelRshAttribute.h"
 #include "RenderingShader/interfaces/VelIRshParameter.h"
@@ -110,7 +111,7 @@ class VelRshParameterBase : public VelSpecLifeCycleObjectExt {
   HRESULT ReadConnection(VelIRshShader_var& oShader);
   HRESULT WriteConnection(VelIRshShader* iShader);
   void Unbind(VelIRshShader& ioShader);
-  void Bind(VelIRshShader& ioShader);
+  void Bind(VelIRshShader& ioShader, std::span<const VelEventName> iOwnEvents);
   void ConnectModelEvents(const VelIRshShader_var& iPrevious, const VelIRshShader_var& iNext);
   HRESULT TellHostOfConnection(const VelIRshShader_var& iPrevious, const VelIRshShader_var& iNext);
 

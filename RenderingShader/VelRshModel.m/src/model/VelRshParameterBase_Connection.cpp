@@ -84,7 +84,12 @@ HRESULT VelRshParameterBase::SetConnection(VelIRshShader* iShader) {
   trace_.Info("Changed connection { previous pointer = %x, next pointer = %x }", hPrevious.Get(), iShader);
   NoteConnection(*this, iShader);
   if (hPrevious) Unbind(*hPrevious);
-  if (hNext) Bind(*hNext);
+  if (hNext) {
+    const VelEventName events[] = {ParameterEvents::VALUE_UPDATED(), ParameterEvents::FORWARD_PARAMETER_VALUE_UPDATED(),
+                                   ParameterEvents::CONNECTION_UPDATED(),
+                                   ParameterEvents::FORWARD_PARAMETER_CONNECTION_UPDATED()};
+    Bind(*hNext, events);
+  }
   ConnectModelEvents(hPrevious, hNext);
   if (callbacks_.HasSubscriber(ParameterEvents::CONNECTION_UPDATED())) {
     VelRshModelNotificationParameterConnectionChanged changed(hPrevious, hNext);
@@ -110,7 +115,8 @@ void VelRshParameterBase::Unbind(VelIRshShader& ioShader) {
   static_cast<void>(ParameterEvents::UNBIND_CALLBACK(callbacks_, &ioShader));
 }
 
-void VelRshParameterBase::Bind(VelIRshShader& ioShader) {
+/// @param[in] iOwnEvents what the shader is to hear of this parameter
+void VelRshParameterBase::Bind(VelIRshShader& ioShader, std::span<const VelEventName> iOwnEvents) {
   if (VelCallbackManager* manager = ManagerOf(ioShader)) {
     const VelEventName events[] = {ShaderEvents::PARAMETER_VALUE_UPDATED(),
                                    ShaderEvents::PARAMETER_CONNECTION_UPDATED()};
@@ -118,10 +124,8 @@ void VelRshParameterBase::Bind(VelIRshShader& ioShader) {
   }
   const VelIRshParameterSubscriber_var hSubscriber(&ioShader);
   if (!hSubscriber) return;
-  const VelEventName events[] = {ParameterEvents::VALUE_UPDATED(), ParameterEvents::FORWARD_PARAMETER_VALUE_UPDATED(),
-                                 ParameterEvents::CONNECTION_UPDATED(),
-                                 ParameterEvents::FORWARD_PARAMETER_CONNECTION_UPDATED()};
-  VelRshSubscription::Subscribe(callbacks_, hSubscriber.Get(), VelRshSubscription::ReceiversOf(*hSubscriber), events);
+  VelRshSubscription::Subscribe(callbacks_, hSubscriber.Get(), VelRshSubscription::ReceiversOf(*hSubscriber),
+                                iOwnEvents);
 }
 
 /// After a load: the connected shader hears what is forwarded to it, but deliberately not the parameter's own changes,
@@ -129,16 +133,9 @@ void VelRshParameterBase::Bind(VelIRshShader& ioShader) {
 void VelRshParameterBase::OnAttached() {
   VelIRshShader_var hShader;
   if (FAILED(ReadConnection(hShader))) return;
-  if (VelCallbackManager* manager = ManagerOf(*hShader)) {
-    const VelEventName events[] = {ShaderEvents::PARAMETER_VALUE_UPDATED(),
-                                   ShaderEvents::PARAMETER_CONNECTION_UPDATED()};
-    VelRshSubscription::Subscribe(*manager, this, ConnectionReceivers(), events);
-  }
-  const VelIRshParameterSubscriber_var hSubscriber(hShader);
-  if (!hSubscriber) return;
   const VelEventName events[] = {ParameterEvents::FORWARD_PARAMETER_VALUE_UPDATED(),
                                  ParameterEvents::FORWARD_PARAMETER_CONNECTION_UPDATED()};
-  VelRshSubscription::Subscribe(callbacks_, hSubscriber.Get(), VelRshSubscription::ReceiversOf(*hSubscriber), events);
+  Bind(*hShader, events);
 }
 
 void VelRshParameterBase::ConnectModelEvents(const VelIRshShader_var& iPrevious, const VelIRshShader_var& iNext) {

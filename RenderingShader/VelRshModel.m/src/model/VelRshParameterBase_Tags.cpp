@@ -42,9 +42,7 @@ VelRshTagRecord* VelRshParameterBase::LookUpTagRecord() {
   GetParentShader(hShader);
   VelString name;
   if (!hShader || FAILED(GetName(name))) return nullptr;
-  const VelBaseUnknown* implementation = hShader->GetImpl();
-  if (implementation == nullptr || &implementation->GetMetaObject() != &VelRshShaderFeature::MetaObject())
-    return nullptr;
+  if (VelRshShaderFeature::From(*hShader) == nullptr) return nullptr;
   return VelRshTagRecord::Of(VelRshReaderConfiguration()(*hShader), name);
 }
 

@@ -37,6 +37,12 @@ VelRshShaderFeature::~VelRshShaderFeature() {
   classTrace.Print(lifeLevel, "(VelRshShaderFeature::~VelRshShaderFeature) Done\n");
 }
 
+VelRshShaderFeature* VelRshShaderFeature::From(VelBaseUnknown& iObject) noexcept {
+  VelBaseUnknown* implementation = iObject.GetImpl();
+  if (implementation == nullptr || &implementation->GetMetaObject() != &MetaObject()) return nullptr;
+  return static_cast<VelRshShaderFeature*>(implementation);
+}
+
 void VelRshShaderFeature::OnAttached() {
   VelListPtrVelBaseUnknown parameters;
   static_cast<void>(ReadParameters(parameters));

@@ -26,6 +26,9 @@ class VelRshShaderFeature final : public VelImplementation {
   const VelMetaClass& GetMetaObject() const noexcept override { return MetaObject(); }
   static const VelMetaClass& MetaObject() noexcept;
 
+  /// @return the object behind a pointer when it is one of the component's own shaders, null for any other
+  static VelRshShaderFeature* From(VelBaseUnknown& iObject) noexcept;
+
   void OnAttached() override;
   void OnComponentStateChange(VelComponentState iFrom, VelComponentState iTo) override;
 

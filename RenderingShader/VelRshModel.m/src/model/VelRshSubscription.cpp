@@ -14,13 +14,6 @@ namespace {
 using ParameterEvents = VelRshParameterPublisherEvents;
 using ShaderEvents = VelRshShaderPublisherEvents;
 
-/// Whether the object behind an interface is of one of the component's own classes.
-template <class Implementation>
-bool IsOwn(VelBaseUnknown& iObject) noexcept {
-  const VelBaseUnknown* implementation = iObject.GetImpl();
-  return implementation != nullptr && VelDerivesFrom(implementation->GetMetaObject(), Implementation::MetaObject());
-}
-
 /// The receiver that asks the subscriber for its interface.
 template <auto Operation, class Interface>
 void ReceiveThrough(VelImplementation& ioSubscriber, VelEventName iEvent, VelBaseUnknown* iPublisher,
@@ -41,7 +34,7 @@ constexpr VelReceiver receiveShaderConnection =
 }  // namespace
 
 const VelReceiverTable& VelRshSubscription::ReceiversOf(VelIRshParameterSubscriber& iShader) noexcept {
-  if (IsOwn<VelRshShaderFeature>(iShader)) return VelRshShaderFeature::ConnectionReceivers();
+  if (VelRshShaderFeature::From(iShader) != nullptr) return VelRshShaderFeature::ConnectionReceivers();
   static const VelReceiverRow rows[] = {
       {ParameterEvents::VALUE_UPDATED(), receiveParameterValue},
       {ParameterEvents::CONNECTION_UPDATED(), receiveParameterConnection},
@@ -52,7 +45,7 @@ const VelReceiverTable& VelRshSubscription::ReceiversOf(VelIRshParameterSubscrib
 }
 
 const VelReceiverTable& VelRshSubscription::ReceiversOf(VelIRshShaderSubscriber& iParameter) noexcept {
-  if (IsOwn<VelRshParameterBase>(iParameter)) return VelRshParameterBase::ShaderReceivers();
+  if (VelRshParameterBase::From(iParameter) != nullptr) return VelRshParameterBase::ShaderReceivers();
   static const VelReceiverRow rows[] = {
       {ShaderEvents::PARAMETER_VALUE_UPDATED(), receiveShaderValue},
       {ShaderEvents::PARAMETER_CONNECTION_UPDATED(), receiveShaderConnection},
