@@ -28,7 +28,13 @@ VelPixelImage* VelPixelImage::Create(int iWidth, int iHeight, Format iFormat, Co
   std::unique_ptr<std::byte[]> pixels(new (std::nothrow) std::byte[count]);
   if (pixels == nullptr) return nullptr;
   std::memcpy(pixels.get(), iPixels.data(), count);
-  return new VelPixelImage(iWidth, iHeight, iFormat, iColorSpace, std::move(pixels));
+  return Create(iWidth, iHeight, iFormat, iColorSpace, std::move(pixels));
+}
+
+VelPixelImage* VelPixelImage::Create(int iWidth, int iHeight, Format iFormat, ColorSpace iColorSpace,
+                                     std::unique_ptr<std::byte[]> iPixels) {
+  if (iPixels == nullptr || ByteCount(iWidth, iHeight, iFormat) == 0) return nullptr;
+  return new VelPixelImage(iWidth, iHeight, iFormat, iColorSpace, std::move(iPixels));
 }
 
 VelPixelImage* VelPixelImage::CreateFromFile(const VelUnicodeString& iPath, int iReadOnly, int iReserved) {

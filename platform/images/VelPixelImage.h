@@ -42,6 +42,11 @@ class VEL_PLATFORM_API VelPixelImage final : public VelObject {
   [[nodiscard]] static VelPixelImage* Create(int iWidth, int iHeight, Format iFormat, ColorSpace iColorSpace,
                                              std::span<const std::byte> iPixels);
 
+  /// As the other Create, without a copy: the image owns the pixels from then on.
+  /// @param[in] iPixels as many bytes as ByteCount tells, which nobody checks; null makes no image
+  [[nodiscard]] static VelPixelImage* Create(int iWidth, int iHeight, Format iFormat, ColorSpace iColorSpace,
+                                             std::unique_ptr<std::byte[]> iPixels);
+
   /// Makes an image of a file by the image services' provider. Without one that is null, and the warning of
   /// VelRbaImageServices.
   /// @param[in] iPath the path of the file

@@ -7,7 +7,7 @@
 # Every need and its packages. Names without a compiler's version, so that a later Debian brings its own.
 declare -A packages_for=(
   [build]="g++ cmake ninja-build ccache"
-  [libraries]="libtomlplusplus-dev"
+  [libraries]="libtomlplusplus-dev libpng-dev libjpeg62-turbo-dev libtiff-dev libopenexr-dev libmd-dev librsvg2-dev libexpat1-dev libseccomp-dev libgdk-pixbuf-2.0-dev libwebp-dev libstb-dev pkg-config"
   [test]="libgtest-dev locales"
   [bench]="libbenchmark-dev"
   [clang]="clang libclang-rt-dev"
