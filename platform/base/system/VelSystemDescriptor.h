@@ -5,9 +5,12 @@
 #define PLATFORM_BASE_SYSTEM_VELSYSTEMDESCRIPTOR_H
 
 #include <string_view>
+#include <utility>
 
-/// Private to this folder. Closes its descriptor when it dies.
-class VelSystemDescriptor {
+#include "platform/base/VelPlatformApi.h"
+
+/// Closes its descriptor when it dies.
+class VEL_PLATFORM_API VelSystemDescriptor {
  public:
   /// @param[in] iDescriptor taken over; negative for none
   explicit VelSystemDescriptor(int iDescriptor = -1) noexcept : descriptor_(iDescriptor) {}
@@ -15,6 +18,16 @@ class VelSystemDescriptor {
 
   VelSystemDescriptor(const VelSystemDescriptor&) = delete;
   VelSystemDescriptor& operator=(const VelSystemDescriptor&) = delete;
+
+  /// Takes the descriptor over and leaves the other one without.
+  VelSystemDescriptor(VelSystemDescriptor&& ioOther) noexcept : descriptor_(ioOther.Release()) {}
+
+  /// As the constructor; closes what was open here before.
+  VelSystemDescriptor& operator=(VelSystemDescriptor&& ioOther) noexcept {
+    VelSystemDescriptor taken(std::move(ioOther));
+    std::swap(descriptor_, taken.descriptor_);
+    return *this;
+  }
 
   bool IsOpen() const noexcept { return descriptor_ >= 0; }
   int Get() const noexcept { return descriptor_; }
