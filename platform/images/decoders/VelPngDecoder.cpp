@@ -141,7 +141,7 @@ bool ReadRows(png_structp ioPng, png_infop ioInfo, png_bytep iPixels) {
   for (int pass = 0; pass < passes; ++pass) {
     for (png_uint_32 row = 0; row < height; ++row) png_read_row(ioPng, iPixels + row * rowLength, nullptr);
   }
-  png_read_end(ioPng, nullptr);
+  png_read_end(ioPng, ioInfo);
   return true;
 }
 
