@@ -194,7 +194,7 @@ TEST_F(VelRshParameterBaseConnectionTest, Trace_NamesBothPointers) {
 TEST_F(VelRshParameterBaseConnectionTest, TraceThatIsOff_SaysNothing) {
   VelTraceService::SetSwitches("VelRshParameter=warning");
   EXPECT_EQ(hParameter_->SetConnection(hNode_.Get()), S_OK);
-  EXPECT_EQ(traces_.Texts(), Texts{});
+  EXPECT_EQ(traces_.Texts("VelRshParameter", VelTraceKind::Information), Texts{});
 }
 
 TEST_F(VelRshParameterBaseConnectionTest, Subscribers_HearPreviousAndNext) {

@@ -198,6 +198,7 @@ TEST_F(VelRshParameterBaseTagsTest, ClosedParameter_AnswersEFail) {
 TEST_F(VelRshParameterBaseTagsTest, ObjectThatIsNoParameterAnyMore_IsReported) {
   SetTags("diffuse");
   const VelIRshParameterPrivate_var hPrivate(hParameter_);
+  ASSERT_EQ(hParameter_->SetName("renamed"), S_OK) << "so that nothing is remembered of its tags";
   const std::string dictionary = VEL_TEST_LIBRARY_FOLDER "/dictionaries/VelRshModel.dictionary";
   ASSERT_EQ(VelDictionary::Unload(dictionary), S_OK);
   EXPECT_EQ(hPrivate->HasTag(Tag::Diffuse), E_UNEXPECTED);

@@ -9,8 +9,8 @@
 #include "RenderingShader/VelRshModel.m/include/VelRshReaderParameterName.h"
 #include "RenderingShader/VelRshModel.m/include/VelRshReaderParameterType.h"
 #include "RenderingShader/VelRshModel.m/include/VelRshReaderParameterValue.h"
+#include "RenderingShader/VelRshModel.m/src/services/VelRshTextureDocument.h"
 #include "RenderingShader/interfaces/VelIRshParameterPrivate.h"
-#include "platform/documents/VelIPLMDmtDocument.h"
 #include "platform/images/VelPixelImage.h"
 #include "platform/images/VelRbaImageServices.h"
 #include "platform/images/VelRbaPathResolver.h"
@@ -23,13 +23,6 @@ constexpr const char* channel = "VelRshReaderParameterFilepath";
 constexpr const char* performanceChannel = "VelRshReaderParameterFilepathPerformanceTime";
 constexpr const char* longPathPrefix = "\\\\?\\";
 constexpr int plainResolution = 72;  ///< Dots per inch of what is no SVG file.
-
-bool IsSvg(VelBaseUnknown& iDocument) {
-  const VelIPLMDmtDocument_var hDocument(&iDocument);
-  VelString format;
-  if (hDocument) static_cast<void>(hDocument->GetFormatName(format));
-  return format.ToLower() == "svg";
-}
 
 }  // namespace
 
@@ -94,15 +87,15 @@ VelUnicodeString VelRshReaderParameterFilepath::ReadFromText(const VelIRshParame
 
 VelUnicodeString VelRshReaderParameterFilepath::ReadFromTexture(const VelIRshParameter& iParameter,
                                                                 const VelString& iName) const {
-  VelBaseUnknown_var hDocument;
-  static_cast<void>(const_cast<VelIRshParameter&>(iParameter).GetValue(hDocument.Receive()));
+  const VelBaseUnknown_var hDocument =
+      VelRshTextureDocument::Of(VelIRshParameter_var(&const_cast<VelIRshParameter&>(iParameter)));
   if (!hDocument) {
     trace_.Info("No texture linked { parameter name = %s }", iName);
     return {};
   }
   VelUnicodeString path;
-  if (FAILED(VelRbaImageServices::GetProjectionPath(hDocument.Get(), path))) return {};
-  if (IsSvg(*hDocument)) return Rasterise(iParameter, iName, path);
+  if (!VelRshTextureDocument::FindPath(*hDocument, path)) return {};
+  if (VelRshTextureDocument::IsSvg(*hDocument)) return Rasterise(iParameter, iName, path);
   static_cast<void>(VelRbaImageServices::ConvertUnsupportedTexture(path, {}, plainResolution));
   Report("File path found into projected non-SVG texture : %s { parameter name = %s }", __LINE__, path, iName);
   return path;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 /// @file VelRshParameterBase_Refresh.cpp How a parameter brings the appearance of its material up to date.
 #include "RenderingShader/VelRshModel.m/src/model/VelRshParameterBase.h"
+#include "RenderingShader/VelRshModel.m/src/updates/VelRshAppearanceUpdater.h"
 #include "platform/base/VelCheck.h"
 
 namespace {
@@ -11,17 +12,29 @@ constexpr VelSourcePosition updateValueAndConnection{sourceText, 788};
 constexpr VelSourcePosition updateValue{sourceText, 798};
 constexpr VelSourcePosition updateConnection{sourceText, 807};
 
-/// @return S_OK when there is a parameter to update
-HRESULT FindParameter(VelRshParameterBase& iImplementation, VelSourcePosition iPosition) {
-  if (VelIRshParameter_var(&iImplementation)) return S_OK;
-  VelCheck::Failed(iPosition, "parameter", "VelIRshParameter not available");
-  return E_NOINTERFACE;
+/// Runs updates on the parameter that an implementation stands for.
+/// @return S_OK, whatever they found; E_NOINTERFACE, after a report, when there is no parameter
+template <class... Updates>
+HRESULT Run(VelRshParameterBase& iImplementation, VelSourcePosition iPosition, Updates... iUpdates) {
+  const VelIRshParameter_var hParameter(&iImplementation);
+  if (!hParameter) {
+    VelCheck::Failed(iPosition, "parameter", "VelIRshParameter not available");
+    return E_NOINTERFACE;
+  }
+  VelRshAppearanceUpdater updater(*hParameter);
+  (..., (updater.*iUpdates)());
+  return S_OK;
 }
 
 }  // namespace
 
-HRESULT VelRshParameterBase::UpdateValueAndConnection() { return FindParameter(*this, updateValueAndConnection); }
+HRESULT VelRshParameterBase::UpdateValueAndConnection() {
+  return Run(*this, updateValueAndConnection, &VelRshAppearanceUpdater::OnValueUpdate,
+             &VelRshAppearanceUpdater::OnConnectionUpdate);
+}
 
-HRESULT VelRshParameterBase::UpdateValue() { return FindParameter(*this, updateValue); }
+HRESULT VelRshParameterBase::UpdateValue() { return Run(*this, updateValue, &VelRshAppearanceUpdater::OnValueUpdate); }
 
-HRESULT VelRshParameterBase::UpdateConnection() { return FindParameter(*this, updateConnection); }
+HRESULT VelRshParameterBase::UpdateConnection() {
+  return Run(*this, updateConnection, &VelRshAppearanceUpdater::OnConnectionUpdate);
+}
