@@ -7,7 +7,11 @@
 #include <cstring>
 
 #include "platform/images/drawing/VelImageWorkerMessage.h"
+#include "platform/images/worker/VelHdrDecoding.h"
+#include "platform/images/worker/VelPixbufDecoding.h"
 #include "platform/images/worker/VelSvgDrawing.h"
+#include "platform/images/worker/VelWebPDecoding.h"
+#include "platform/images/worker/VelWholeFile.h"
 
 namespace {
 
@@ -55,6 +59,9 @@ HRESULT VelImageWorkerOrder::Carry(VelImageSource& ioSource, VelWorkerPicture& o
                                    std::vector<std::string>& oUnknown, std::string& oCause) const {
   oUnknown.clear();
   if (kind == VelImageKind::Svg) return VelSvgDrawing::Draw(ioSource, dpi, groups, oPicture, oUnknown, oCause);
-  oCause = std::string("is a file of kind ") + NameOfImageKind(kind) + ", which is not read here";
-  return E_INVALIDARG;
+  std::string file;
+  VEL_RETURN_IF_FAILED(VelWholeFile::Read(ioSource, VelWholeFile::mostBytes, file, oCause));
+  if (kind == VelImageKind::WebP) return VelWebPDecoding::Decode(file, oPicture, oCause);
+  if (kind == VelImageKind::Hdr) return VelHdrDecoding::Decode(file, oPicture, oCause);
+  return VelPixbufDecoding::Decode(kind, file, oPicture, oCause);
 }
