@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr const char* endedCause = "has ended";
+constexpr const char* closedCause = "has closed the channel";
 
 /// What goes along with a message. There is room for the one descriptor that a message may bring; the system closes
 /// those that do not fit, and tells.
@@ -119,7 +119,7 @@ HRESULT VelSystemChannel::Fail(int iErrno, std::string& oCause) {
   // The system tells a reader by this error alone that the other end left messages unread.
   if (iErrno == ECONNRESET) hasLostMessages_ = true;
   if (!IsEnd(iErrno)) return VelSystemError::Fail(iErrno, oCause);
-  oCause = endedCause;
+  oCause = closedCause;
   return E_UNEXPECTED;
 }
 

@@ -16,8 +16,8 @@
 /// A sequenced-packet Unix socket: messages arrive whole, in order, or not at all. No operation raises SIGPIPE, none
 /// waits longer than it was told to, and none trusts the other end. The destructor closes.
 ///
-/// Where an operation fails, oCause is the reason in English, made to follow the other end's name ("has ended");
-/// where it succeeds, oCause stays untouched. Thread: one at a time.
+/// Where an operation fails, oCause is the reason in English, made to follow the other end's name ("has closed the
+/// channel"); where it succeeds, oCause stays untouched. Thread: one at a time.
 class VEL_PLATFORM_API VelSystemChannel {
  public:
   static constexpr std::size_t largestMessage = std::size_t{160} * 1024;  ///< Bytes that Receive takes.

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
-/// @file VelSystemChild.cpp Starts by posix_spawn, and watches by a process descriptor, for which not every C library has functions.
+/// @file VelSystemChild.cpp Starts by posix_spawn, and watches by a process descriptor, for which not every C library
+/// has functions.
 #include "platform/base/system/VelSystemChild.h"
 
 #include <fcntl.h>
@@ -13,11 +14,13 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <utility>
 
 #include "platform/base/system/VelSystemChannel.h"
 #include "platform/base/system/VelSystemDeadline.h"
 #include "platform/base/system/VelSystemError.h"
+#include "platform/base/system/VelSystemFile.h"
 
 namespace {
 
@@ -96,6 +99,14 @@ HRESULT CheckProgram(const std::string& iPath, std::string& oCause) {
   return E_FAIL;
 }
 
+/// @return the signals that a line of a process's status tells, one bit each; none where there is no such line
+unsigned long long SignalsOf(const std::string& iStatus, const std::string& iLine) {
+  const std::size_t place = iStatus.find("\n" + iLine + ":");
+  if (place == std::string::npos) return 0;
+  constexpr int hexadecimal = 16;
+  return std::strtoull(iStatus.c_str() + place + iLine.size() + 2, nullptr, hexadecimal);
+}
+
 std::string TextOfEnd(const siginfo_t& iInformation) {
   // The number is 0 where somebody else waited for the child, or where this process ignores that children end.
   if (iInformation.si_pid == 0) return "ended";
@@ -150,6 +161,17 @@ void VelSystemChild::Kill() noexcept {
   if (!IsRunning()) return;
   static_cast<void>(::syscall(SYS_pidfd_send_signal, handle_.Get(), SIGKILL, nullptr, 0));
   static_cast<void>(AwaitEnd(killMilliseconds));
+}
+
+bool VelSystemChild::IsDoomed() {
+  if (AwaitEnd(0)) return true;
+  constexpr std::size_t longestStatus = std::size_t{64} * 1024;
+  constexpr unsigned long long killed = 1ULL << (SIGKILL - 1);
+  std::string status;
+  std::string ignored;
+  const std::string path = "/proc/" + std::to_string(identifier_) + "/status";
+  if (FAILED(VelSystemFile::ReadWholeFile(path, longestStatus, status, ignored))) return AwaitEnd(0);
+  return ((SignalsOf(status, "SigPnd") | SignalsOf(status, "ShdPnd")) & killed) != 0;
 }
 
 bool VelSystemChild::AwaitEnd(int iTimeoutMilliseconds) noexcept {

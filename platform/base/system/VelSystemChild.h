@@ -47,6 +47,11 @@ class VEL_PLATFORM_API VelSystemChild {
   /// @return true when no program runs
   bool AwaitEnd(int iTimeoutMilliseconds) noexcept;
 
+  /// Looks whether somebody has killed the program, which the system may not have carried out yet: a program is able to
+  /// take in a message after its own death sentence.
+  /// @return true when the program is about to end; true also when none runs
+  bool IsDoomed();
+
   /// @return true from Start until the end was noticed by Kill or AwaitEnd, in the process that started it alone
   bool IsRunning() const noexcept;
 

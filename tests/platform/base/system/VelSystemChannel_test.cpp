@@ -108,7 +108,7 @@ TEST_F(VelSystemChannelTest, Receive_OfWhatWasSentBeforeTheEnd_ComesBeforeTheEnd
   EXPECT_EQ(Receive(), S_OK);
   EXPECT_EQ(message_, "last");
   EXPECT_EQ(Receive(), E_UNEXPECTED);
-  EXPECT_EQ(cause_, "has ended");
+  EXPECT_EQ(cause_, "has closed the channel");
   EXPECT_FALSE(one_.HasLostMessages());
 }
 
@@ -122,7 +122,7 @@ TEST_F(VelSystemChannelTest, AnEndThatDidNotReadAll_IsToldFromOneThatDid) {
 TEST_F(VelSystemChannelTest, Send_ToAClosedEnd_RaisesNoSignal) {
   other_.Close();
   EXPECT_EQ(one_.Send(BytesOf("x"), {}, -1, patient, cause_), E_UNEXPECTED);
-  EXPECT_EQ(cause_, "has ended");
+  EXPECT_EQ(cause_, "has closed the channel");
 }
 
 TEST_F(VelSystemChannelTest, Send_ToAnEndThatNeverReads_IsBackInTime) {

@@ -98,6 +98,17 @@ TEST_F(VelSystemChildTest, Kill_EndsAProgramThatIsStopped) {
   EXPECT_EQ(child_.GetEnd(), "was ended by signal 9");
 }
 
+TEST_F(VelSystemChildTest, IsDoomed_OnceSomebodyHasKilledIt) {
+  EXPECT_TRUE(child_.IsDoomed()) << "nothing runs";
+  for (int i = 0; i < 50; ++i) {
+    EXPECT_EQ(child_.Start(shell, {"-c", "exec sleep 100"}, theirs_, VelSystemChild::Output::Nowhere, cause_), S_OK);
+    EXPECT_FALSE(child_.IsDoomed());
+    ASSERT_EQ(::kill(child_.GetIdentifier(), SIGKILL), 0);
+    // The system forgets the sentence while it carries it out, and then the end is near.
+    EXPECT_TRUE(child_.IsDoomed() || child_.AwaitEnd(patient));
+  }
+}
+
 TEST_F(VelSystemChildTest, TheDestructor_KillsAndLeavesNothingOpen) {
   const std::size_t before = CountOpenDescriptors();
   pid_t identifier = 0;
