@@ -1,8 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
-/// @file VelImageWorkerWarmUp.cpp Draws a small picture of everything.
+/// @file VelImageWorkerWarmUp.cpp Draws and decodes a small picture of everything.
 #include "platform/images/worker/VelImageWorkerWarmUp.h"
 
+#include <iconv.h>
+
+#include <array>
 #include <cstdlib>
 #include <span>
 #include <string>
@@ -10,20 +13,50 @@
 #include <vector>
 
 #include "platform/images/pixels/VelImageSource.h"
-#include "platform/images/worker/VelSvgDrawing.h"
+#include "platform/images/worker/VelImageWorkerOrder.h"
+#include "platform/images/worker/VelWorkerFonts.h"
 #include "platform/images/worker/VelWorkerPicture.h"
 
 namespace {
 
-constexpr std::string_view sample =
-    "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'><rect width='4' height='4' fill='red'/></svg>";
+using namespace std::string_view_literals;
 
-void DrawSample(std::string_view iText) {
-  VelMemoryImageSource source(std::as_bytes(std::span(iText)));
+struct Sample {
+  VelImageKind kind;
+  std::string_view file;
+};
+
+// Each has one pixel, but for the first, which has one letter of each face.
+constexpr std::array samples{
+    Sample{VelImageKind::Svg,
+           "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'>"
+           "<g font-size='4'><text font-family='sans-serif'>a</text><text font-family='serif'>a</text>"
+           "<text font-family='monospace'>a</text><g font-weight='bold'><text font-family='sans-serif'>a</text>"
+           "<text font-family='serif'>a</text><text font-family='monospace'>a</text></g></g></svg>"sv},
+    Sample{VelImageKind::Bmp,
+           "BM\x3A\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\1\0\0\0\1\0\0\0\1\0\x18\0\0\0\0\0\4\0\0\0"
+           "\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"sv},
+    Sample{VelImageKind::Gif, "GIF89a\1\0\1\0\x80\0\0\0\0\0\xFF\xFF\xFF\x2C\0\0\0\0\1\0\1\0\0\2\2\x44\1\0\x3B"sv},
+    Sample{VelImageKind::Tga, "\0\0\2\0\0\0\0\0\0\0\0\0\1\0\1\0\x18\0\0\0\0"sv},
+    Sample{VelImageKind::Pnm, "P6 1 1 255\n\0\0\0"sv},
+    Sample{VelImageKind::Ico,
+           "\0\0\1\0\1\0\1\1\0\0\1\0\x18\0\x30\0\0\0\x16\0\0\0\x28\0\0\0\1\0\0\0\2\0\0\0\1\0\x18\0"
+           "\0\0\0\0\4\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"sv},
+};
+
+/// What texts are still found in that are not in Unicode. A converter is a library, opened once.
+constexpr const char* encodings[] = {"ISO-8859-1",   "ISO-8859-2",   "ISO-8859-15",
+                                     "WINDOWS-1250", "WINDOWS-1251", "WINDOWS-1252"};
+
+void Decode(const Sample& iSample) {
+  VelImageWorkerOrder order;
+  order.kind = iSample.kind;
+  order.dpi = 96;
+  VelMemoryImageSource source(std::as_bytes(std::span(iSample.file)));
   VelWorkerPicture picture;
   std::vector<std::string> unknown;
   std::string cause;
-  static_cast<void>(VelSvgDrawing::Draw(source, 96, {}, picture, unknown, cause));
+  static_cast<void>(order.Carry(source, picture, unknown, cause));
 }
 
 }  // namespace
@@ -31,5 +64,8 @@ void DrawSample(std::string_view iText) {
 void VelImageWorkerWarmUp::Run() {
   // Filters share their work out to threads; the processes are there to use several cores.
   ::setenv("RAYON_NUM_THREADS", "1", 1);
-  DrawSample(sample);
+  VelWorkerFonts::Choose();
+  // Never closed: a library without a user may be unloaded.
+  for (const char* encoding : encodings) static_cast<void>(::iconv_open("UTF-8", encoding));
+  for (const Sample& sample : samples) Decode(sample);
 }
