@@ -6,8 +6,10 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/images/decoders/VelExrDecoder.h"
 #include "platform/images/decoders/VelJpegDecoder.h"
 #include "platform/images/decoders/VelPngDecoder.h"
+#include "platform/images/decoders/VelTiffDecoder.h"
 #include "platform/images/pixels/VelPixelBuffer.h"
 
 namespace {
@@ -20,6 +22,8 @@ struct Decoder {
 constexpr std::array decoders{
     Decoder{VelImageKind::Png, VelPngDecoder::Decode},
     Decoder{VelImageKind::Jpeg, VelJpegDecoder::Decode},
+    Decoder{VelImageKind::Tiff, VelTiffDecoder::Decode},
+    Decoder{VelImageKind::Exr, VelExrDecoder::Decode},
 };
 
 const Decoder* Find(VelImageKind iKind) noexcept {
