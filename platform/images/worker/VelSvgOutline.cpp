@@ -99,7 +99,7 @@ class VelSvgOutline::Listener final : public VelSvgXmlListener {
     VEL_RETURN_IF_FAILED(CheckLimits(LocalName(iName), iAttributes, oCause));
     if (open_.empty()) VEL_RETURN_IF_FAILED(EnterRoot(iName, oCause));
     const Open parent = open_.empty() ? Open{} : open_.back();
-    Open element{.isText = parent.isText || LocalName(iName) == "text"};
+    Open element{.isContainer = false, .isText = parent.isText || LocalName(iName) == "text"};
     const Part part = PartOf(LocalName(iName));
     if (parent.isContainer && part != Part::Unseen && iName.starts_with(outline_.prefix_) &&
         iName.size() == outline_.prefix_.size() + LocalName(iName).size()) {

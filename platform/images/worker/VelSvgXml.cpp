@@ -17,6 +17,7 @@ using Parser = std::unique_ptr<std::remove_pointer_t<XML_Parser>, decltype(&XML_
 /// What the callbacks of one reading share.
 struct Reading {
   XML_Parser parser;
+  std::string_view text;
   VelSvgXmlListener& listener;
   HRESULT code = S_OK;
   std::string cause;
@@ -32,7 +33,7 @@ std::size_t PlaceOf(const Reading& iReading) {
   return static_cast<std::size_t>(XML_GetCurrentByteIndex(iReading.parser));
 }
 
-// The length of the current event is 0 inside an entity, and at the end of an element without content.
+// The length is 0 at the end of an element without content.
 std::size_t LengthOf(const Reading& iReading) {
   return static_cast<std::size_t>(XML_GetCurrentByteCount(iReading.parser));
 }
@@ -41,9 +42,10 @@ void XMLCALL OnStart(void* ioReading, const XML_Char* iName, const XML_Char** iA
   Reading& reading = *static_cast<Reading*>(ioReading);
   if (FAILED(reading.code)) return;
   const std::size_t begin = PlaceOf(reading);
-  const std::size_t length = LengthOf(reading);
-  Check(reading, reading.listener.OnStart(iName, VelSvgAttributes(iAttributes), {begin, begin + length, length > 0},
-                                          reading.cause));
+  // What an entity brings has the place of the reference to it.
+  const bool isWritten = reading.text[begin] != '&';
+  const VelSvgPlace place{begin, begin + LengthOf(reading), isWritten};
+  Check(reading, reading.listener.OnStart(iName, VelSvgAttributes(iAttributes), place, reading.cause));
 }
 
 void XMLCALL OnEnd(void* ioReading, const XML_Char* /*iName*/) {
@@ -104,7 +106,7 @@ HRESULT VelSvgXml::Read(std::string_view iText, VelSvgXmlListener& ioListener, s
     oCause = "needs more memory than there is";
     return E_FAIL;
   }
-  Reading reading{parser.get(), ioListener, S_OK, {}};
+  Reading reading{parser.get(), iText, ioListener, S_OK, {}};
   XML_SetUserData(parser.get(), &reading);
   XML_SetElementHandler(parser.get(), &OnStart, &OnEnd);
   XML_SetCharacterDataHandler(parser.get(), &OnText);
