@@ -3,6 +3,7 @@
 /// @file VelImageWorkerClient.cpp One request, one reply, and no patience with anything else.
 #include "platform/images/drawing/VelImageWorkerClient.h"
 
+#include <random>
 #include <span>
 #include <utility>
 
@@ -41,6 +42,12 @@ HRESULT TextOf(const std::vector<std::string>& iGroups, std::string& oText, std:
   return S_OK;
 }
 
+/// What drew one file may not be able to guess it, and so to answer for the next file.
+std::uint64_t NewIdentifier() {
+  std::random_device random;
+  return (std::uint64_t{random()} << 32U) | random();
+}
+
 }  // namespace
 
 /// What is sent, and what is needed to judge the answer.
@@ -64,8 +71,16 @@ HRESULT VelImageWorkerClient::GiveUp(const std::string& iWhat, std::string& oCau
   return E_FAIL;
 }
 
+/// A run that speaks without having been asked is up to something.
+bool VelImageWorkerClient::IsIdle() {
+  std::string message;
+  std::string ignored;
+  VelSystemDescriptor memory;
+  return channel_.Receive(message, memory, 0, ignored) == S_FALSE;
+}
+
 HRESULT VelImageWorkerClient::EnsureStarted(std::string& oCause) {
-  if (!child_.IsDoomed()) return S_OK;
+  if (!child_.IsDoomed() && IsIdle()) return S_OK;
   Stop();
   std::string path = settings_.program;
   if (path.empty()) VEL_RETURN_IF_FAILED(VelImageWorkerProgram::Find(path, oCause));
@@ -101,7 +116,7 @@ HRESULT VelImageWorkerClient::Draw(VelImageKind iKind, const VelSystemInputFile&
   // A run that was killed since the last request has not failed this one, so another is asked. It is asked once.
   for (int count = 0; count < attemptCount && attempt == Attempt::NeverRead; ++count) {
     VEL_RETURN_IF_FAILED(EnsureStarted(oCause));
-    order.record.identifier = ++lastIdentifier_;
+    order.record.identifier = NewIdentifier();
     attempt = Try(order, deadline, reply, memory, cause);
   }
   if (attempt != Attempt::Answered) {

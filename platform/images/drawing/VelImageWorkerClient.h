@@ -47,6 +47,7 @@ class VelImageWorkerClient {
   struct Order;
   enum class Attempt : std::uint8_t { Answered, Failed, NeverRead };
 
+  bool IsIdle();
   HRESULT EnsureStarted(std::string& oCause);
   Attempt Try(const Order& iOrder, const VelSystemDeadline& iDeadline, VelImageWorkerReply& oReply,
               VelSystemDescriptor& oMemory, std::string& oCause);
@@ -59,7 +60,6 @@ class VelImageWorkerClient {
   Settings settings_;
   VelSystemChannel channel_;
   VelSystemChild child_;
-  std::uint64_t lastIdentifier_ = 0;
 };
 
 #endif  // PLATFORM_IMAGES_DRAWING_VELIMAGEWORKERCLIENT_H

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
 /// @file VelImageWorkerClient_Answers_test.cpp What is asked, and every way in which an answer can be wrong.
+#include <algorithm>
+
 #include "platform/images/drawing/VelImageWorkerMessage.h"
 #include "tests/platform/images/drawing/VelImageWorkerTest.h"
 
@@ -54,6 +56,23 @@ TEST_F(VelImageWorkerClient_Answers, AnswersToOtherRequests_AreSkipped) {
   EXPECT_EQ(Draw("another-first"), S_OK) << cause_;
   ExpectPicture();
   EXPECT_EQ(client_->GetProcess(), process);
+}
+
+TEST_F(VelImageWorkerClient_Answers, AnAnswerToWhatWasNotAskedYet_IsNeverTaken) {
+  for (int i = 0; i < 20; ++i) {
+    EXPECT_EQ(Draw("answer-ahead"), S_OK) << cause_;
+    ExpectPicture();
+  }
+}
+
+TEST_F(VelImageWorkerClient_Answers, TheNumberOfARequest_CannotBeGuessedFromThoseBefore) {
+  std::vector<std::uint64_t> numbers;
+  for (int i = 0; i < 8; ++i) {
+    EXPECT_EQ(Draw("identifier"), E_FAIL);
+    const std::uint64_t number = std::stoull(cause_);
+    for (const std::uint64_t earlier : numbers) EXPECT_GT(std::max(number, earlier) - std::min(number, earlier), 1000U);
+    numbers.push_back(number);
+  }
 }
 
 TEST_F(VelImageWorkerClient_Answers, AWrongAnswer_FailsWithItsCause_AndTheProgramIsStartedAnew) {
