@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The VelRshModel authors
+// SPDX-License-Identifier: Apache-2.0
+/// @file VelImageInput.cpp Opens an image file and tells it from others.
+#include "platform/images/services/VelImageInput.h"
+
+#include <chrono>
+#include <cstddef>
+#include <span>
+
+#include "platform/base/VelUnicodeString.h"
+#include "platform/images/VelRbaImageServices.h"
+#include "platform/images/pixels/VelImageSource.h"
+#include "platform/images/services/VelImageKey.h"
+
+namespace {
+
+/// Up to this size the content of a file that was just written is worth reading to tell it from others.
+constexpr std::uint64_t mostHashedBytes = std::uint64_t{64} << 20U;
+
+std::string LowerCase(std::string_view iText) {
+  std::string text(iText);
+  for (char& letter : text) {
+    if ('A' <= letter && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
+  }
+  return text;
+}
+
+/// A file system's clock may tick so slowly that two versions of a file bear the same times.
+bool WasJustWritten(const VelSystemFileStatus& iStatus) {
+  using std::chrono::nanoseconds;
+  constexpr std::chrono::seconds longestTick(2);
+  const auto now = std::chrono::system_clock::now().time_since_epoch();
+  return nanoseconds(iStatus.statusChangedAt) > now - longestTick ||
+         nanoseconds(iStatus.modifiedAt) > now - longestTick;
+}
+
+HRESULT Fail(std::string iCause, std::string& oCause) {
+  oCause = std::move(iCause);
+  return E_FAIL;
+}
+
+}  // namespace
+
+HRESULT VelImageInput::Open(const std::string& iPath, std::string& oCause) {
+  if (FAILED(file_.Open(iPath, oCause))) return E_FAIL;
+  extension_ = LowerCase(VelRbaImageServices::SplitPath(VelUnicodeString(iPath)).extension.View());
+  const std::uint64_t size = file_.GetStatus().size;
+  if (size == 0) return Fail("is empty", oCause);
+  VelFileImageSource source(file_);
+  kind_ = RecognizeImageKind(source, extension_);
+  if (kind_ == VelImageKind::Unknown) {
+    return Fail("is of no accepted format; expected SVG, PNG, JPEG, TIFF, EXR, BMP, GIF, TGA, PNM, ICO, HDR or WebP",
+                oCause);
+  }
+  if (kind_ == VelImageKind::Svg && size > mostSvgBytes) {
+    return Fail("has " + std::to_string(size) + " bytes; an SVG file may have " + std::to_string(mostSvgBytes), oCause);
+  }
+  return S_OK;
+}
+
+std::string VelImageInput::KeyOf(std::string_view iOperation, const VelDrawingOptions& iOptions) const {
+  VelImageKey key;
+  key.Add(iOperation).Add(extension_).Add(file_.GetStatus());
+  if (kind_ == VelImageKind::Svg) {
+    key.Add(iOptions.dpi).Add(static_cast<std::int64_t>(iOptions.groups.size()));
+    for (const std::string& group : iOptions.groups) key.Add(group);
+  }
+  if (!WasJustWritten(file_.GetStatus())) return key.Finish();
+  if (file_.GetStatus().size > mostHashedBytes) {
+    return key.Add(std::chrono::steady_clock::now().time_since_epoch().count()).Finish();
+  }
+  std::string content(static_cast<std::size_t>(file_.GetStatus().size), '\0');
+  content.resize(file_.ReadAt(0, std::as_writable_bytes(std::span(content))));
+  return key.Add(content).Finish();
+}
