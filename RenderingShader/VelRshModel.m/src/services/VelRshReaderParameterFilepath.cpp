@@ -10,6 +10,7 @@
 #include "RenderingShader/VelRshModel.m/include/VelRshReaderParameterType.h"
 #include "RenderingShader/VelRshModel.m/include/VelRshReaderParameterValue.h"
 #include "RenderingShader/VelRshModel.m/src/services/VelRshTextureDocument.h"
+#include "RenderingShader/VelRshModel.m/src/services/VelRshTextureEntry.h"
 #include "RenderingShader/interfaces/VelIRshParameterPrivate.h"
 #include "platform/images/VelPixelImage.h"
 #include "platform/images/VelRbaImageServices.h"
@@ -22,7 +23,6 @@ constexpr const char* sourceText = "RenderingShader/VelRshModel.m/src/VelRshRead
 constexpr const char* channel = "VelRshReaderParameterFilepath";
 constexpr const char* performanceChannel = "VelRshReaderParameterFilepathPerformanceTime";
 constexpr const char* longPathPrefix = "\\\\?\\";
-constexpr int plainResolution = 72;  ///< Dots per inch of what is no SVG file.
 
 }  // namespace
 
@@ -96,7 +96,7 @@ VelUnicodeString VelRshReaderParameterFilepath::ReadFromTexture(const VelIRshPar
   VelUnicodeString path;
   if (!VelRshTextureDocument::FindPath(*hDocument, path)) return {};
   if (VelRshTextureDocument::IsSvg(*hDocument)) return Rasterise(iParameter, iName, path);
-  static_cast<void>(VelRbaImageServices::ConvertUnsupportedTexture(path, {}, plainResolution));
+  static_cast<void>(VelRbaImageServices::ConvertUnsupportedTexture(path, {}, VelRshTextureEntry::plainResolution));
   Report("File path found into projected non-SVG texture : %s { parameter name = %s }", __LINE__, path, iName);
   return path;
 }

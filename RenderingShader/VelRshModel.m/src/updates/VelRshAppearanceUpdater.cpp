@@ -7,7 +7,7 @@
 #include "RenderingShader/VelRshModel.m/include/VelRshParameterServices.h"
 #include "RenderingShader/VelRshModel.m/include/VelRshReaderParameterName.h"
 #include "RenderingShader/VelRshModel.m/include/VelRshReaderParameterValue.h"
-#include "platform/images/VelPixelImage.h"
+#include "RenderingShader/VelRshModel.m/src/services/VelRshTextureEntry.h"
 #include "platform/images/VelRbaImageServices.h"
 #include "platform/materials/VelIRenderingMaterial.h"
 #include "platform/materials/VelIRmaEditionMode.h"
@@ -62,10 +62,7 @@ void VelRshAppearanceUpdater::Rasterise(const VelString& iName, std::uint32_t iS
   VelListValVelUnicodeString groups;
   VelRbaImageServices::ExtractPathList(iGroups, groups);
   trace_.Info("'%s' SVG rasterizing... { dpi: %d, group count: %d }", iName, iDpi, groups.Size());
-  const auto hImage = VelBaseUnknown_var::Adopt(VelRbaImageServices::CreatePixelImageFromFullPath(iPath, groups, iDpi));
-  if (!hImage) return;
-  static_cast<void>(VelRbaImageServices::ConvertUnsupportedTexture(iPath, groups, iDpi));
-  static_cast<void>(ioCache.SetEntry(iSlot, iPath, VelPixelImage::From(hImage.Get())));
+  if (!VelRshTextureEntry::Fill(ioCache, iSlot, iPath, groups, iDpi)) return;
   trace_.Info("'%s' rasterized cache entry updated { path: %s }", iName, iPath);
 }
 

@@ -6,10 +6,9 @@
 #include "RenderingShader/VelRshModel.m/include/VelRshReaderParameterName.h"
 #include "RenderingShader/VelRshModel.m/include/VelRshReaderParameterValue.h"
 #include "RenderingShader/VelRshModel.m/src/services/VelRshTextureDocument.h"
+#include "RenderingShader/VelRshModel.m/src/services/VelRshTextureEntry.h"
 #include "RenderingShader/VelRshModel.m/src/updates/VelRshAppearanceUpdater.h"
 #include "RenderingShader/VelRshModel.m/src/updates/VelRshParameterValueCopier.h"
-#include "platform/images/VelPixelImage.h"
-#include "platform/images/VelRbaImageServices.h"
 #include "platform/materials/VelIRenderingMaterial.h"
 #include "platform/materials/VelIRmaEventPropagationControl.h"
 
@@ -18,7 +17,6 @@ namespace {
 constexpr const char* sourceText = "RenderingShader/VelRshModel.m/src/VelRshAppearanceUpdater";
 constexpr const char* bumpShaderType = "vel_phen_bump";
 constexpr const char* bumpTypeName = "bump_type";
-constexpr int plainResolution = 72;  ///< Dots per inch of what is no SVG file.
 
 /// Whether the top shader gives the values of a parameter on to what is connected below it.
 bool IsInjected(VelIRshParameterPrivate& iParameter) {
@@ -105,11 +103,7 @@ void VelRshAppearanceUpdater::LoadPlainTexture(VelBaseUnknown& iDocument, VelIRm
   VelUnicodeString path;
   if (!VelRshTextureDocument::FindPath(iDocument, path)) return;
   trace_.Info("'%s' is attached to a non-SVG texture located %s", name_, path);
-  const auto hImage =
-      VelBaseUnknown_var::Adopt(VelRbaImageServices::CreatePixelImageFromFullPath(path, {}, plainResolution));
-  if (!hImage) return;
-  static_cast<void>(VelRbaImageServices::ConvertUnsupportedTexture(path, {}, plainResolution));
-  static_cast<void>(ioCache.SetEntry(slot_, path, VelPixelImage::From(hImage.Get())));
+  if (!VelRshTextureEntry::Fill(ioCache, slot_, path, {}, VelRshTextureEntry::plainResolution)) return;
   trace_.Info("'%s' cache entry updated { path: %s }", name_, path);
 }
 
