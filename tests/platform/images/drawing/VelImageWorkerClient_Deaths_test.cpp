@@ -70,11 +70,13 @@ TEST_F(VelImageWorkerClient_Deaths, AProgramKilledBetweenRequests_CostsNothing) 
   }
 }
 
-TEST_F(VelImageWorkerClient_Deaths, AProgramThatWasSureToDieUnread_IsAskedOnceMore) {
+TEST_F(VelImageWorkerClient_Deaths, AProgramThatDiesWithoutHavingReadTheRequest_IsReplacedByAnother) {
   ExpectPicture();
   const int process = client_->GetProcess();
   // Stopped it still runs when the request is sent; killed then, it has not read it.
   ASSERT_EQ(::kill(process, SIGSTOP), 0);
+  siginfo_t stopped{};
+  ASSERT_EQ(::waitid(P_PID, static_cast<id_t>(process), &stopped, WSTOPPED | WNOWAIT), 0);
   const pid_t killer = ::fork();
   ASSERT_GE(killer, 0);
   if (killer == 0) {
