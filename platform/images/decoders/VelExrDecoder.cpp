@@ -10,6 +10,7 @@
 #include <new>
 #include <span>
 #include <stdexcept>
+#include <string_view>
 #include <vector>
 
 #include <ImfChannelList.h>
@@ -59,7 +60,7 @@ constexpr std::array packings{
 /// The library's view of a source. It reports by exceptions, as the library wants it.
 class Stream final : public Imf::IStream {
  public:
-  explicit Stream(VelImageSource& ioSource) : Imf::IStream("of this image"), cursor_(ioSource) {}
+  explicit Stream(VelImageSource& ioSource) : Imf::IStream("image"), cursor_(ioSource) {}
 
   bool read(char oBytes[], int iCount) override {
     const std::span bytes(oBytes, static_cast<std::size_t>(iCount));
@@ -186,6 +187,14 @@ HRESULT DecodePart(Imf::MultiPartInputFile& ioFile, int iPart, std::uint64_t iFi
   return S_OK;
 }
 
+/// @return what an exception tells, without the file that the library names before it
+std::string CauseOf(const std::exception& iException) {
+  constexpr std::string_view name = "\"image\". ";
+  const std::string_view text = iException.what();
+  const std::size_t found = text.rfind(name);
+  return std::string(found == std::string_view::npos ? text : text.substr(found + name.size()));
+}
+
 HRESULT DecodeInto(VelImageSource& ioSource, VelPixelBuffer& oImage, std::string& oCause) {
   Imf::Header::setMaxImageSize(VelPixelImage::largestSide, VelPixelImage::largestSide);
   Imf::Header::setMaxTileSize(VelPixelImage::largestSide, VelPixelImage::largestSide);
@@ -207,7 +216,7 @@ HRESULT VelExrDecoder::Decode(VelImageSource& ioSource, VelPixelBuffer& oImage, 
   } catch (const std::bad_alloc&) {
     oCause = "needs more memory than there is";
   } catch (const std::exception& exception) {
-    oCause = std::string("is a damaged OpenEXR file: ") + exception.what();
+    oCause = "is a damaged OpenEXR file: " + CauseOf(exception);
   } catch (...) {
     oCause = "is a damaged OpenEXR file";
   }

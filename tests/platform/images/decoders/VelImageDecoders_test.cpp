@@ -16,10 +16,11 @@ TEST(VelImageDecoders, OnlyTheFormatsOfThisProcess_AreDecoded) {
     bool expected;
   };
   const Case cases[] = {
-      {VelImageKind::Unknown, false}, {VelImageKind::Svg, false},  {VelImageKind::Png, true},
-      {VelImageKind::Jpeg, true},     {VelImageKind::Bmp, false},  {VelImageKind::Gif, false},
-      {VelImageKind::Tga, false},     {VelImageKind::Pnm, false},  {VelImageKind::Ico, false},
-      {VelImageKind::Hdr, false},     {VelImageKind::WebP, false},
+      {VelImageKind::Unknown, false}, {VelImageKind::Svg, false}, {VelImageKind::Png, true},
+      {VelImageKind::Jpeg, true},     {VelImageKind::Tiff, true}, {VelImageKind::Exr, true},
+      {VelImageKind::Bmp, false},     {VelImageKind::Gif, false}, {VelImageKind::Tga, false},
+      {VelImageKind::Pnm, false},     {VelImageKind::Ico, false}, {VelImageKind::Hdr, false},
+      {VelImageKind::WebP, false},
   };
   for (const Case& example : cases) {
     EXPECT_EQ(CanDecode(example.kind), example.expected) << NameOfImageKind(example.kind);
@@ -32,7 +33,8 @@ TEST(VelImageDecoders, OnlyTheFormatsOfThisProcess_AreDecoded) {
 TEST(VelImageDecoders, AfterAFailure_TheImageBeforeIsGone) {
   std::string cause;
   VelPixelBuffer image;
-  for (const VelImageKind kind : {VelImageKind::Png, VelImageKind::Jpeg, VelImageKind::Gif}) {
+  for (const VelImageKind kind :
+       {VelImageKind::Png, VelImageKind::Jpeg, VelImageKind::Tiff, VelImageKind::Exr, VelImageKind::Gif}) {
     ASSERT_EQ(image.Allocate(2, 2, VelPixelImage::Format::Rgba8, cause), S_OK);
     VelMemoryImageSource source({});
     EXPECT_EQ(DecodeImage(kind, source, image, cause), E_FAIL);
