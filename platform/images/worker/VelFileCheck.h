@@ -19,7 +19,8 @@ class VelFileCheck {
   struct Outcome {
     std::int64_t width = 0;   ///< Pixels, as an image may have.
     std::int64_t height = 0;  ///< As width.
-    std::string bytes;  ///< What to decode instead of the file, such as its first frame; empty for the file itself.
+    std::string bytes;   ///< What to decode instead of the file, such as its first frame; empty for the file itself.
+    bool isPng = false;  ///< Whether the bytes are a PNG file, as icons may hold.
   };
 
   /// @param[in] iKind Bmp, Gif, Tga, Pnm or Ico

@@ -87,6 +87,7 @@ HRESULT VelFileCheck::CheckIco(std::string_view iFile, Outcome& oOutcome, std::s
   if (!IsWhole(file, largest)) return RefuseCut(kind, oCause);
   oOutcome.width = largest.width;
   oOutcome.height = largest.height;
-  oOutcome.bytes = FileOf(iFile, largest);
+  oOutcome.isPng = largest.isPng;
+  oOutcome.bytes = largest.isPng ? std::string(iFile.substr(largest.begin, largest.length)) : FileOf(iFile, largest);
   return S_OK;
 }

@@ -80,7 +80,8 @@ HRESULT VelPixbufDecoding::Decode(VelImageKind iKind, std::string_view iFile, Ve
   VelFileCheck::Outcome checked;
   VEL_RETURN_IF_FAILED(VelFileCheck::Check(iKind, iFile, checked, oCause));
   GError* error = nullptr;
-  const Loader loader(gdk_pixbuf_loader_new_with_type(LoaderNameOf(iKind), &error), &g_object_unref);
+  const char* name = checked.isPng ? "png" : LoaderNameOf(iKind);
+  const Loader loader(gdk_pixbuf_loader_new_with_type(name, &error), &g_object_unref);
   if (loader == nullptr) return VelLibraryCause::Fail("is of a format that has no loader here", error, oCause);
   VEL_RETURN_IF_FAILED(Load(loader.get(), checked.bytes.empty() ? iFile : checked.bytes, oCause));
   const GdkPixbuf* pixels = gdk_pixbuf_loader_get_pixbuf(loader.get());
