@@ -8,35 +8,35 @@
 
 namespace {
 
-class VelImageWorkerClient_Answers : public VelImageWorkerTest {};
+class VelImageWorkerClientAnswersTest : public VelImageWorkerTest {};
 
-TEST_F(VelImageWorkerClient_Answers, ASoundAnswer_IsThePicture) {
+TEST_F(VelImageWorkerClientAnswersTest, ASoundAnswer_IsThePicture) {
   ExpectPicture();
   EXPECT_GT(client_->GetProcess(), 0) << "the program is kept";
 }
 
-TEST_F(VelImageWorkerClient_Answers, APictureOfFloats_KeepsItsFormatAndColourSpace) {
+TEST_F(VelImageWorkerClientAnswersTest, APictureOfFloats_KeepsItsFormatAndColourSpace) {
   EXPECT_EQ(Draw("floats", {}, VelImageKind::Hdr), S_OK) << cause_;
   EXPECT_EQ(image_.GetFormat(), VelPixelImage::Format::Rgba32F);
   EXPECT_EQ(image_.GetColorSpace(), VelPixelImage::ColorSpace::Linear);
   EXPECT_EQ(image_.Bytes().size(), 96U);
 }
 
-TEST_F(VelImageWorkerClient_Answers, TheRequest_TellsKindAndDpi_AndGroupsOfDrawingsAlone) {
+TEST_F(VelImageWorkerClientAnswersTest, TheRequest_TellsKindAndDpi_AndGroupsOfDrawingsAlone) {
   EXPECT_EQ(Draw("echo-request", {"a", "bc"}, VelImageKind::Svg, 300), E_FAIL);
   EXPECT_EQ(cause_, "1 1 300 5");
   EXPECT_EQ(Draw("echo-request", {"a", "bc"}, VelImageKind::WebP, 72), E_FAIL);
   EXPECT_EQ(cause_, "1 12 72 0");
 }
 
-TEST_F(VelImageWorkerClient_Answers, UnknownGroups_AreThoseThatWereAskedFor) {
+TEST_F(VelImageWorkerClientAnswersTest, UnknownGroups_AreThoseThatWereAskedFor) {
   EXPECT_EQ(Draw("echo-names", {"one", "", "zw\xc3\xb6lf", "one"}), S_OK) << cause_;
   EXPECT_EQ(unknown_, (std::vector<std::string>{"one", "", "zw\xc3\xb6lf"}));
   EXPECT_EQ(Draw("other-names", {"one"}), S_OK) << cause_;
   EXPECT_EQ(unknown_, std::vector<std::string>{"one"});
 }
 
-TEST_F(VelImageWorkerClient_Answers, ARefusal_IsTheCause_AndTheProgramIsKept) {
+TEST_F(VelImageWorkerClientAnswersTest, ARefusal_IsTheCause_AndTheProgramIsKept) {
   ExpectPicture();
   const int process = client_->GetProcess();
   EXPECT_EQ(Draw("refuse"), E_FAIL);
@@ -50,7 +50,7 @@ TEST_F(VelImageWorkerClient_Answers, ARefusal_IsTheCause_AndTheProgramIsKept) {
   EXPECT_EQ(client_->GetProcess(), process);
 }
 
-TEST_F(VelImageWorkerClient_Answers, AnswersToOtherRequests_AreSkipped) {
+TEST_F(VelImageWorkerClientAnswersTest, AnswersToOtherRequests_AreSkipped) {
   ExpectPicture();
   const int process = client_->GetProcess();
   EXPECT_EQ(Draw("another-first"), S_OK) << cause_;
@@ -58,14 +58,14 @@ TEST_F(VelImageWorkerClient_Answers, AnswersToOtherRequests_AreSkipped) {
   EXPECT_EQ(client_->GetProcess(), process);
 }
 
-TEST_F(VelImageWorkerClient_Answers, AnAnswerToWhatWasNotAskedYet_IsNeverTaken) {
+TEST_F(VelImageWorkerClientAnswersTest, AnAnswerToWhatWasNotAskedYet_IsNeverTaken) {
   for (int i = 0; i < 20; ++i) {
     EXPECT_EQ(Draw("answer-ahead"), S_OK) << cause_;
     ExpectPicture();
   }
 }
 
-TEST_F(VelImageWorkerClient_Answers, TheNumberOfARequest_CannotBeGuessedFromThoseBefore) {
+TEST_F(VelImageWorkerClientAnswersTest, TheNumberOfARequest_CannotBeGuessedFromThoseBefore) {
   std::vector<std::uint64_t> numbers;
   for (int i = 0; i < 8; ++i) {
     EXPECT_EQ(Draw("identifier"), E_FAIL);
@@ -75,7 +75,7 @@ TEST_F(VelImageWorkerClient_Answers, TheNumberOfARequest_CannotBeGuessedFromThos
   }
 }
 
-TEST_F(VelImageWorkerClient_Answers, AWrongAnswer_FailsWithItsCause_AndTheProgramIsStartedAnew) {
+TEST_F(VelImageWorkerClientAnswersTest, AWrongAnswer_FailsWithItsCause_AndTheProgramIsStartedAnew) {
   struct Case {
     const char* word;
     const char* cause;
@@ -127,7 +127,7 @@ TEST_F(VelImageWorkerClient_Answers, AWrongAnswer_FailsWithItsCause_AndTheProgra
   }
 }
 
-TEST_F(VelImageWorkerClient_Answers, NamesThatCannotBeSent_AreRefusedBeforeAnythingIs) {
+TEST_F(VelImageWorkerClientAnswersTest, NamesThatCannotBeSent_AreRefusedBeforeAnythingIs) {
   EXPECT_EQ(Draw("draw", {"fine", std::string("a\0b", 3)}), E_FAIL);
   EXPECT_EQ(cause_, "cannot be drawn in groups of which one has a NUL byte in its name");
   const std::vector<std::string> tooLong(2, std::string(VelImageWorkerMessage::largestText / 2, 'x'));
@@ -136,19 +136,19 @@ TEST_F(VelImageWorkerClient_Answers, NamesThatCannotBeSent_AreRefusedBeforeAnyth
   EXPECT_EQ(client_->GetProcess(), 0) << "the program is not even started";
 }
 
-TEST_F(VelImageWorkerClient_Answers, TheLongestNames_AreSent) {
+TEST_F(VelImageWorkerClientAnswersTest, TheLongestNames_AreSent) {
   const std::vector<std::string> longest(2, std::string(VelImageWorkerMessage::largestText / 2 - 1, 'x'));
   EXPECT_EQ(Draw("echo-request", longest), E_FAIL);
   EXPECT_EQ(cause_, "1 1 96 131072");
 }
 
-TEST_F(VelImageWorkerClient_Answers, AFileThatIsNotOpen_IsRefused) {
+TEST_F(VelImageWorkerClientAnswersTest, AFileThatIsNotOpen_IsRefused) {
   const VelSystemInputFile closed;
   EXPECT_EQ(client_->Draw(VelImageKind::Svg, closed, {}, 96, image_, unknown_, cause_), E_FAIL);
   EXPECT_EQ(cause_, "is not open");
 }
 
-TEST_F(VelImageWorkerClient_Answers, AHundredRequests_UseOneProcess) {
+TEST_F(VelImageWorkerClientAnswersTest, AHundredRequests_UseOneProcess) {
   ExpectPicture();
   const int process = client_->GetProcess();
   const std::size_t open = CountOpenDescriptors();

@@ -9,7 +9,7 @@
 
 namespace {
 
-class VelImageWorkerClient_Deaths : public VelImageWorkerTest {
+class VelImageWorkerClientDeathsTest : public VelImageWorkerTest {
  protected:
   void ExpectFailure(const std::string& iWord, const std::string& iCause) {
     EXPECT_EQ(Draw(iWord), E_FAIL);
@@ -20,7 +20,7 @@ class VelImageWorkerClient_Deaths : public VelImageWorkerTest {
   }
 };
 
-TEST_F(VelImageWorkerClient_Deaths, AProgramThatDiesWhileDrawing_FailsThisRequestAlone) {
+TEST_F(VelImageWorkerClientDeathsTest, AProgramThatDiesWhileDrawing_FailsThisRequestAlone) {
   struct Case {
     const char* word;
     const char* cause;
@@ -39,7 +39,7 @@ TEST_F(VelImageWorkerClient_Deaths, AProgramThatDiesWhileDrawing_FailsThisReques
   }
 }
 
-TEST_F(VelImageWorkerClient_Deaths, AProgramThatDoesNotAnswerInTime_IsKilled) {
+TEST_F(VelImageWorkerClientDeathsTest, AProgramThatDoesNotAnswerInTime_IsKilled) {
   for (const char* word : {"stop", "silence"}) {
     SCOPED_TRACE(word);
     UseProgram(VEL_TEST_IMAGE_WORKER, brief);
@@ -52,14 +52,14 @@ TEST_F(VelImageWorkerClient_Deaths, AProgramThatDoesNotAnswerInTime_IsKilled) {
   }
 }
 
-TEST_F(VelImageWorkerClient_Deaths, AProgramThatWasStoppedBetweenRequests_IsKilledToo) {
+TEST_F(VelImageWorkerClientDeathsTest, AProgramThatWasStoppedBetweenRequests_IsKilledToo) {
   UseProgram(VEL_TEST_IMAGE_WORKER, brief);
   static_cast<void>(Draw("process"));
   ASSERT_EQ(::kill(client_->GetProcess(), SIGSTOP), 0);
   ExpectFailure("draw", "did not answer within 300 ms");
 }
 
-TEST_F(VelImageWorkerClient_Deaths, AProgramKilledBetweenRequests_CostsNothing) {
+TEST_F(VelImageWorkerClientDeathsTest, AProgramKilledBetweenRequests_CostsNothing) {
   for (int i = 0; i < 50; ++i) {
     ExpectPicture();
     const int process = client_->GetProcess();
@@ -70,7 +70,7 @@ TEST_F(VelImageWorkerClient_Deaths, AProgramKilledBetweenRequests_CostsNothing) 
   }
 }
 
-TEST_F(VelImageWorkerClient_Deaths, AProgramThatDiesWithoutHavingReadTheRequest_IsReplacedByAnother) {
+TEST_F(VelImageWorkerClientDeathsTest, AProgramThatDiesWithoutHavingReadTheRequest_IsReplacedByAnother) {
   ExpectPicture();
   const int process = client_->GetProcess();
   // Stopped it still runs when the request is sent; killed then, it has not read it.
@@ -89,14 +89,14 @@ TEST_F(VelImageWorkerClient_Deaths, AProgramThatDiesWithoutHavingReadTheRequest_
   EXPECT_EQ(::waitpid(killer, nullptr, 0), killer);
 }
 
-TEST_F(VelImageWorkerClient_Deaths, AProgramThatEndsAfterItsAnswer_IsReplacedSilently) {
+TEST_F(VelImageWorkerClientDeathsTest, AProgramThatEndsAfterItsAnswer_IsReplacedSilently) {
   for (int i = 0; i < 10; ++i) {
     EXPECT_EQ(Draw("draw-and-exit"), S_OK) << cause_;
     image_ = VelPixelBuffer();
   }
 }
 
-TEST_F(VelImageWorkerClient_Deaths, AProgramThatExitsAtOnce_FailsInTime) {
+TEST_F(VelImageWorkerClientDeathsTest, AProgramThatExitsAtOnce_FailsInTime) {
   UseMode("exits-at-once");
   ExpectFailure("draw", "ended with code 5");
   EXPECT_LT(taken_.count(), patient);
@@ -104,7 +104,7 @@ TEST_F(VelImageWorkerClient_Deaths, AProgramThatExitsAtOnce_FailsInTime) {
   ExpectPicture();
 }
 
-TEST_F(VelImageWorkerClient_Deaths, AProgramThatNeverReads_FailsInTime) {
+TEST_F(VelImageWorkerClientDeathsTest, AProgramThatNeverReads_FailsInTime) {
   UseProgram(VEL_TEST_IMAGE_WORKER, brief);
   UseMode("never-reads");
   ExpectFailure("draw", "did not answer within 300 ms");
@@ -114,7 +114,7 @@ TEST_F(VelImageWorkerClient_Deaths, AProgramThatNeverReads_FailsInTime) {
   ExpectPicture();
 }
 
-TEST_F(VelImageWorkerClient_Deaths, AProgramThatCannotBeStarted_SaysWhy) {
+TEST_F(VelImageWorkerClientDeathsTest, AProgramThatCannotBeStarted_SaysWhy) {
   const std::string closed = folder_.Write("closed", "#!/bin/sh\n");
   const std::string text = folder_.Write("text", "no program");
   ASSERT_EQ(::chmod(text.c_str(), 0700), 0);
@@ -135,7 +135,7 @@ TEST_F(VelImageWorkerClient_Deaths, AProgramThatCannotBeStarted_SaysWhy) {
   }
 }
 
-TEST_F(VelImageWorkerClient_Deaths, AHostThatIgnoresTheEndOfChildren_NoticesAllTheSame) {
+TEST_F(VelImageWorkerClientDeathsTest, AHostThatIgnoresTheEndOfChildren_NoticesAllTheSame) {
   struct sigaction ignoring {};
   struct sigaction before {};
   ignoring.sa_handler = SIG_IGN;
@@ -150,7 +150,7 @@ TEST_F(VelImageWorkerClient_Deaths, AHostThatIgnoresTheEndOfChildren_NoticesAllT
   ASSERT_EQ(::sigaction(SIGCHLD, &before, nullptr), 0);
 }
 
-TEST_F(VelImageWorkerClient_Deaths, AHostThatWaitsForAllItsChildren_NoticesAllTheSame) {
+TEST_F(VelImageWorkerClientDeathsTest, AHostThatWaitsForAllItsChildren_NoticesAllTheSame) {
   ExpectPicture();
   const int process = client_->GetProcess();
   ASSERT_EQ(::kill(process, SIGKILL), 0);
@@ -158,7 +158,7 @@ TEST_F(VelImageWorkerClient_Deaths, AHostThatWaitsForAllItsChildren_NoticesAllTh
   ExpectPicture();
 }
 
-TEST_F(VelImageWorkerClient_Deaths, ACopyOfTheHost_HasAProgramOfItsOwn) {
+TEST_F(VelImageWorkerClientDeathsTest, ACopyOfTheHost_HasAProgramOfItsOwn) {
   ExpectPicture();
   const int process = client_->GetProcess();
   const pid_t copy = ::fork();
@@ -176,7 +176,7 @@ TEST_F(VelImageWorkerClient_Deaths, ACopyOfTheHost_HasAProgramOfItsOwn) {
   EXPECT_EQ(client_->GetProcess(), process) << "the copy has left it alone";
 }
 
-TEST_F(VelImageWorkerClient_Deaths, Stop_EndsTheProgram_AndTheNextRequestStartsIt) {
+TEST_F(VelImageWorkerClientDeathsTest, Stop_EndsTheProgram_AndTheNextRequestStartsIt) {
   client_->Stop();
   ExpectPicture();
   const int process = client_->GetProcess();
