@@ -10,7 +10,6 @@
 
 #include "tests/platform/images/decoders/DecodedImage.h"
 #include "tests/platform/images/decoders/FileBytes.h"
-#include "tests/platform/images/decoders/PngBytes.h"
 #include "tests/platform/images/decoders/TiffBytes.h"
 
 namespace {
@@ -199,16 +198,6 @@ TEST(VelTiffDecoder, Planes_AreTakenInOrder) {
   EXPECT_EQ(Decode(words.File()).Bytes(), (std::vector<int>{1, 2, 3, 255}));
   const TiffBytes bits{3, 1, 1, 3, 2, {BytesOf({0x80}), BytesOf({0x40}), BytesOf({0x20})}, {{planarTag, {2}}}};
   EXPECT_EQ(Decode(bits.File()).Bytes(), (std::vector<int>{255, 0, 0, 255, 0, 255, 0, 255, 0, 0, 255, 255}));
-}
-
-TEST(VelTiffDecoder, PackedRows_AreUnpacked) {
-  TiffBytes packBits = Letters();
-  packBits.tags[compressionTag] = {32773};
-  packBits.pieces = {BytesOf({2, 'a', 'b', 'c', 0xFE, 'd'})};
-  EXPECT_EQ(Decode(packBits.File()).Letters(), "abc/ddd");
-  TiffBytes deflate{3, 3, 8, 1, 1, {PngBytes::Stored("abcdefghi")}, {{compressionTag, {8}}}};
-  EXPECT_EQ(Decode(deflate.File()).Letters(), "abc/def/ghi");
-  ExpectNoImageOfBeginnings(VelImageKind::Tiff, deflate.File(), 1);
 }
 
 TEST(VelTiffDecoder, ColorsThatTheLibraryConverts_AreRedGreenAndBlue) {
