@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: 2026 The VelRshModel authors
+// SPDX-License-Identifier: Apache-2.0
+/// @file VelRshHostBindings.cpp What the module exports, made from its grid.
+#include "host/layout/VelRmaParameterDialog.h"
+#include "host/layout/VelRmaParameterLayout.h"
+#include "host/refresh/TIEVelIRmaRefresh.h"
+#include "host/refresh/VelRmaRefresh.h"
+
+#define VEL_GRID_FILE "host/bindings/VelRshHost.def"
+#include "platform/objectmodeler/VelBindingGrid.inl"
