@@ -72,10 +72,13 @@ constexpr int allowedFileCommands[] = {F_GETFD, F_SETFD, F_GETFL, F_ADD_SEALS, F
 
 // Libraries look for files that they can do without, and take this answer better than any other.
 constexpr int refusedPathCalls[] = {
-    SCMP_SYS(open),      SCMP_SYS(openat),     SCMP_SYS(openat2),  SCMP_SYS(stat),
-    SCMP_SYS(lstat),     SCMP_SYS(newfstatat), SCMP_SYS(statx),    SCMP_SYS(access),
-    SCMP_SYS(faccessat), SCMP_SYS(faccessat2), SCMP_SYS(readlink), SCMP_SYS(readlinkat),
+    SCMP_SYS(open),       SCMP_SYS(openat), SCMP_SYS(openat2),  SCMP_SYS(stat),       SCMP_SYS(lstat),
+    SCMP_SYS(newfstatat), SCMP_SYS(statx),  SCMP_SYS(readlink), SCMP_SYS(readlinkat),
 };
+
+// Libraries ask whether a file may be read before they use what they have of it in memory. All are told yes, and nobody
+// looks.
+constexpr int confirmedPathCalls[] = {SCMP_SYS(access), SCMP_SYS(faccessat), SCMP_SYS(faccessat2)};
 
 /// Collects the rules; the first that is refused counts.
 class Rules {
@@ -108,6 +111,7 @@ scmp_arg_cmp HasBits(unsigned iArgument, scmp_datum_t iMask, scmp_datum_t iBits)
 void AddRules(Rules& ioRules, int iChannel) noexcept {
   for (const int call : allowedCalls) ioRules.Add(SCMP_ACT_ALLOW, call);
   for (const int call : refusedPathCalls) ioRules.Add(SCMP_ACT_ERRNO(EACCES), call);
+  for (const int call : confirmedPathCalls) ioRules.Add(SCMP_ACT_ERRNO(0), call);
   // What comes through the channel is for the parent.
   ioRules.AllowIf(SCMP_SYS(read), {0, SCMP_CMP_NE, static_cast<scmp_datum_t>(iChannel), 0});
   // No memory becomes code.
@@ -151,6 +155,8 @@ HRESULT VelSystemSandbox::Limit(const Limits& iLimits, std::string& oCause) {
   // The first limit has a signal that tells what happened, the second has none.
   VEL_RETURN_IF_FAILED(
       SetLimit(RLIMIT_CPU, iLimits.processorSeconds, iLimits.processorSeconds + 1, "processor time", oCause));
+  // Who asks for more is told, and not ended.
+  ::signal(SIGXFSZ, SIG_IGN);
   VEL_RETURN_IF_FAILED(SetLimit(RLIMIT_FSIZE, iLimits.fileSize, iLimits.fileSize, "file size", oCause));
   VEL_RETURN_IF_FAILED(SetLimit(RLIMIT_NOFILE, iLimits.descriptors, iLimits.descriptors, "open files", oCause));
   return SetLimit(RLIMIT_CORE, 0, 0, "core files", oCause);

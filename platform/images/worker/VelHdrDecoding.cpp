@@ -86,9 +86,9 @@ HRESULT VelHdrDecoding::Decode(std::string_view iFile, VelWorkerPicture& oPictur
   }
   VEL_RETURN_IF_FAILED(VelWorkerPicture::CheckSize(width, height, oCause));
   if (!IsWhole(VelFileHeader(iFile), begin, width, height)) return VelFileCheck::RefuseCut(kind, oCause);
+  VEL_RETURN_IF_FAILED(oPicture.Allocate(width, height, VelPixelImage::Format::Rgba32F, oCause));
   const Pixels pixels(stbi_loadf_from_memory(bytes, length, &width, &height, &parts, 4), &stbi_image_free);
   if (pixels == nullptr) return VelFileCheck::RefuseForm(kind, stbi_failure_reason(), oCause);
-  VEL_RETURN_IF_FAILED(oPicture.Allocate(width, height, VelPixelImage::Format::Rgba32F, oCause));
   std::memcpy(oPicture.Bytes().data(), pixels.get(), oPicture.Bytes().size());
   return S_OK;
 }

@@ -28,7 +28,7 @@ struct WorkerAnswer {
   bool isThere = false;  ///< False when none came.
   VelImageWorkerMessage::Reply reply;
   std::string text;
-  Painting picture;  ///< Of bytes alone.
+  Painting picture;  ///< Of small pictures of bytes alone.
   std::vector<std::byte> bytes;
 
   bool IsDone() const {
@@ -110,7 +110,9 @@ class WorkerProgram {
     std::string cause;
     ASSERT_EQ(VelSystemSharedBytes::Map(ioMemory.Release(), size, bytes, cause), S_OK) << cause;
     ioAnswer.bytes.assign(bytes.Bytes().begin(), bytes.Bytes().end());
-    if (pixelSize == 4) ioAnswer.picture = Painting(ioAnswer.reply.width, ioAnswer.reply.height, bytes.Bytes());
+    constexpr std::size_t small = std::size_t{1} << 22;
+    if (pixelSize == 4 && size <= small)
+      ioAnswer.picture = Painting(ioAnswer.reply.width, ioAnswer.reply.height, bytes.Bytes());
   }
 
   VelSystemChannel channel_;
