@@ -53,8 +53,8 @@ constexpr std::array packings{
     Packing{Imf::PXR24_COMPRESSION, 2 * VelCompressionBound::deflate, 16},  // A float is cut to 24 bits first.
     Packing{Imf::B44_COMPRESSION, 16, 32},
     Packing{Imf::B44A_COMPRESSION, 16, 32},
-    Packing{Imf::DWAA_COMPRESSION, 64 * VelCompressionBound::deflate, 32},  // Deflated is one number of 8 x 8 pixels.
-    Packing{Imf::DWAB_COMPRESSION, 64 * VelCompressionBound::deflate, 256},
+    Packing{Imf::DWAA_COMPRESSION, 32 * VelCompressionBound::deflate, 32},  // Deflated are two numbers of 8 x 8.
+    Packing{Imf::DWAB_COMPRESSION, 32 * VelCompressionBound::deflate, 256},
 };
 
 /// The library's view of a source. It reports by exceptions, as the library wants it.

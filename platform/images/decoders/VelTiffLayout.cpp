@@ -18,6 +18,7 @@ struct Packing {
   std::uint64_t ratio;
 };
 
+/// The compressions that are read. The library knows more, of which little is in use and some pack without a bound.
 constexpr std::array packings{
     Packing{COMPRESSION_NONE, 1},
     Packing{COMPRESSION_PACKBITS, 64},
@@ -25,10 +26,12 @@ constexpr std::array packings{
     Packing{COMPRESSION_DEFLATE, VelCompressionBound::deflate},
     Packing{COMPRESSION_ADOBE_DEFLATE, VelCompressionBound::deflate},
     Packing{COMPRESSION_JPEG, 512},  // A block of 64 samples takes a bit.
+    Packing{COMPRESSION_CCITTRLE, 16384},
+    Packing{COMPRESSION_CCITTFAX3, 16384},  // A row like the one before takes a bit.
+    Packing{COMPRESSION_CCITTFAX4, 16384},
+    Packing{COMPRESSION_LZMA, 10000},
+    Packing{COMPRESSION_ZSTD, 32768},  // A block of 128 KB of one byte takes four.
 };
-
-/// The others repeat in ways that know no small bound: a row like the one before takes a bit.
-constexpr std::uint64_t ratioOfOthers = 100000;
 
 std::uint16_t Short(TIFF* ioFile, std::uint32_t iTag) {
   std::uint16_t value = 0;
@@ -61,11 +64,10 @@ HRESULT VelTiffLayout::Read(tiff* ioFile, std::string& oCause) {
 
 HRESULT VelTiffLayout::ReadCompression(tiff* ioFile, std::string& oCause) {
   const std::uint16_t compression = Short(ioFile, TIFFTAG_COMPRESSION);
-  // Files of the old kind each interpret the format in their own way, and reading them is guesswork.
-  if (compression == COMPRESSION_OJPEG) return Unfit("JPEG of the old style", oCause);
   const auto* found = std::find_if(packings.begin(), packings.end(),
                                    [=](const Packing& iKnown) { return iKnown.compression == compression; });
-  ratio = found == packings.end() ? ratioOfOthers : found->ratio;
+  if (found == packings.end()) return Unfit("compression " + std::to_string(compression), oCause);
+  ratio = found->ratio;
   return S_OK;
 }
 

@@ -18,20 +18,21 @@ float NumberOf(int iColumn, int iRow, int iComponent) {
   return static_cast<float>(iRow * 1024 + iColumn * 4 + iComponent);
 }
 
+void FillPixel(int iColumn, int iRow, VelPixelBuffer& ioImage) {
+  std::byte* pixel = ioImage.Row(iRow).data() + static_cast<std::size_t>(iColumn) * ioImage.PixelSize();
+  for (int component = 0; component < 4; ++component) {
+    const float number = NumberOf(iColumn, iRow, component);
+    if (ioImage.GetFormat() == Format::Rgba8) {
+      pixel[component] = static_cast<std::byte>(iRow * 37 + iColumn * 5 + component);
+    } else {
+      std::memcpy(pixel + 4 * component, &number, 4);
+    }
+  }
+}
+
 void Fill(VelPixelBuffer& ioImage) {
   for (int row = 0; row < ioImage.GetHeight(); ++row) {
-    for (int column = 0; column < ioImage.GetWidth(); ++column) {
-      std::byte* pixel = ioImage.Row(row).data() + static_cast<std::size_t>(column) * ioImage.PixelSize();
-      for (int component = 0; component < 4; ++component) {
-        const float number = NumberOf(column, row, component);
-        const auto byte = static_cast<std::byte>(row * 37 + column * 5 + component);
-        if (ioImage.GetFormat() == Format::Rgba8) {
-          pixel[component] = byte;
-        } else {
-          std::memcpy(pixel + 4 * component, &number, 4);
-        }
-      }
-    }
+    for (int column = 0; column < ioImage.GetWidth(); ++column) FillPixel(column, row, ioImage);
   }
 }
 
