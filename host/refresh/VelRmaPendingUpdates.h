@@ -34,6 +34,12 @@ class VelRmaPendingUpdates {
   /// @return the next update; only where HasNext
   Update Take() { return updates_[taken_++]; }
 
+  /// Calls for each parameter that is still to be taken.
+  template <class Call>
+  void Visit(const Call& iCall) const {
+    for (std::size_t i = taken_; i < updates_.size(); ++i) iCall(updates_[i].parameter);
+  }
+
   /// Forgets what is noted of a parameter.
   void Forget(const VelBaseUnknown_WR& iParameter);
 

@@ -3,9 +3,9 @@
 /// @file VelRmaRefresh.cpp Collects while edits go on, and runs when they have ended.
 #include "host/refresh/VelRmaRefresh.h"
 
-#include <algorithm>
 #include <utility>
 
+#include "RenderingShader/VelRshModel.m/include/VelRshParameterServices.h"
 #include "RenderingShader/interfaces/VelIRshParameterPrivate.h"
 #include "RenderingShader/interfaces/VelIRshShaderPublisher.h"
 #include "RenderingShader/interfaces/VelRshModelNotificationShaderParameterChanged.h"
@@ -14,6 +14,7 @@
 #include "platform/events/VelCallbackManager.h"
 #include "platform/events/VelIModelEvents.h"
 #include "platform/events/VelReceiverTable.h"
+#include "platform/featuremodeler/VelSpecChanges.h"
 #include "platform/materials/VelIRenderingMaterial.h"
 #include "platform/materials/VelRbaNotificationTopologyModification.h"
 
@@ -26,30 +27,26 @@ VelRmaRefresh::~VelRmaRefresh() { VelEditScope::RemoveListener(*this); }
 HRESULT VelRmaRefresh::Attach(VelBaseUnknown* iMaterial) {
   if (iMaterial == nullptr) return E_INVALIDARG;
   if (!VelIRenderingMaterial_var(iMaterial)) return E_NOINTERFACE;
-  if (Find(*iMaterial) != followed_.end()) return S_FALSE;
+  if (Find(iMaterial) != nullptr) return S_FALSE;
   VEL_RETURN_IF_FAILED(ConnectTo(iMaterial));
   const VelRmaGraphWalk walk = VelRmaGraphWalk::Of(*iMaterial);
-  Followed followed{VelBaseUnknown_WR(iMaterial), {}};
+  Followed followed{++attached_, VelBaseUnknown_WR(iMaterial), {}};
   for (const VelIRshParameter_var& hParameter : walk.parameters) {
     followed.parameters.emplace(hParameter->GetComponent(), VelBaseUnknown_WR(hParameter.Get()));
   }
   Listen(walk);
-  followed_.push_back(std::move(followed));
+  followed_[iMaterial->GetComponent()] = std::move(followed);
   return S_OK;
 }
 
 HRESULT VelRmaRefresh::Detach(VelBaseUnknown* iMaterial) {
   if (iMaterial == nullptr) return E_INVALIDARG;
-  const auto followed = Find(*iMaterial);
-  if (followed == followed_.end()) return S_FALSE;
+  const Followed* const followed = Find(iMaterial);
+  if (followed == nullptr) return S_FALSE;
   static_cast<void>(DeconnectFrom(iMaterial));
   for (const auto& [component, parameter] : followed->parameters) pending_.Forget(parameter);
-  followed_.erase(followed);
+  followed_.erase(iMaterial->GetComponent());
   StopListening(VelRmaGraphWalk::Of(*iMaterial));
-  // A shader may stand below several materials.
-  for (const Followed& left : followed_) {
-    if (VelBaseUnknown* const material = left.material.Get()) Listen(VelRmaGraphWalk::Of(*material));
-  }
   return S_OK;
 }
 
@@ -94,10 +91,18 @@ void VelRmaRefresh::OnEditsEnded() {
   static_cast<void>(Run());
 }
 
-std::vector<VelRmaRefresh::Followed>::iterator VelRmaRefresh::Find(VelBaseUnknown& iMaterial) {
-  const VelComponent* const component = iMaterial.GetComponent();
-  return std::find_if(followed_.begin(), followed_.end(),
-                      [&](const Followed& iFollowed) { return iFollowed.material.Get() == component; });
+VelRmaRefresh::Followed* VelRmaRefresh::Find(VelBaseUnknown* iMaterial) {
+  const VelComponent* const component = iMaterial != nullptr ? iMaterial->GetComponent() : nullptr;
+  const auto followed = followed_.find(component);
+  // Another material may have been made where one that is gone was before.
+  const bool isFollowed = followed != followed_.end() && followed->second.material.Get() == component;
+  return isFollowed ? &followed->second : nullptr;
+}
+
+VelRmaRefresh::Followed* VelRmaRefresh::FindAbove(const VelBaseUnknown_WR& iParameter) {
+  VelIRshParameter_var hParameter;
+  if (FAILED(iParameter.Query(hParameter.Receive()))) return nullptr;
+  return Find(VelRshParameterServices::FindRenderingMaterial(*hParameter).Get());
 }
 
 void VelRmaRefresh::Listen(const VelRmaGraphWalk& iWalk) {
@@ -113,6 +118,8 @@ void VelRmaRefresh::Listen(const VelRmaGraphWalk& iWalk) {
 
 void VelRmaRefresh::StopListening(const VelRmaGraphWalk& iWalk) {
   for (const VelIRshShader_var& hShader : iWalk.shaders) {
+    // A shader that is connected here may stand below another material.
+    if (Find(VelRshParameterServices::FindRenderingMaterial(*hShader).Get()) != nullptr) continue;
     const VelIRshShaderPublisher_var hPublisher(hShader);
     VelCallbackManager* const manager = hPublisher ? hPublisher->GetCallbackManager() : nullptr;
     if (manager != nullptr) static_cast<void>(VelRshShaderPublisherEvents::UNBIND_CALLBACK(*manager, this));
@@ -120,17 +127,28 @@ void VelRmaRefresh::StopListening(const VelRmaGraphWalk& iWalk) {
 }
 
 void VelRmaRefresh::LookAgain() {
-  std::erase_if(followed_, [](const Followed& iFollowed) { return iFollowed.material.Get() == nullptr; });
-  for (Followed& followed : followed_) {
-    const VelRmaGraphWalk walk = VelRmaGraphWalk::Of(*followed.material.Get());
-    Listen(walk);
-    LookAgainAt(followed, walk);
+  std::map<std::uint64_t, Followed*> concerned;
+  const std::uint64_t places = VelSpecChanges::CountOfPlaces();
+  if (places != placesAtLastLook_) {
+    std::erase_if(followed_, [](const auto& iFollowed) { return iFollowed.second.material.Get() == nullptr; });
+    for (auto& [component, followed] : followed_) concerned.emplace(followed.number, &followed);
+    placesAtLastLook_ = places;
+  } else {
+    pending_.Visit([&](const VelBaseUnknown_WR& iParameter) {
+      Followed* const followed = FindAbove(iParameter);
+      if (followed != nullptr) concerned.emplace(followed->number, followed);
+    });
   }
+  for (const auto& [number, followed] : concerned) LookAgainAt(*followed);
 }
 
-void VelRmaRefresh::LookAgainAt(Followed& ioFollowed, const VelRmaGraphWalk& iWalk) {
+void VelRmaRefresh::LookAgainAt(Followed& ioFollowed) {
+  VelBaseUnknown* const material = ioFollowed.material.Get();
+  if (material == nullptr) return;
+  const VelRmaGraphWalk walk = VelRmaGraphWalk::Of(*material);
+  Listen(walk);
   std::map<const VelComponent*, VelBaseUnknown_WR> parameters;
-  for (const VelIRshParameter_var& hParameter : iWalk.parameters) {
+  for (const VelIRshParameter_var& hParameter : walk.parameters) {
     const VelComponent* const component = hParameter->GetComponent();
     const auto known = ioFollowed.parameters.find(component);
     const bool isKnown = known != ioFollowed.parameters.end() && known->second.Get() == component;
@@ -142,19 +160,13 @@ void VelRmaRefresh::LookAgainAt(Followed& ioFollowed, const VelRmaGraphWalk& iWa
   ioFollowed.parameters = std::move(parameters);
 }
 
-bool VelRmaRefresh::IsFollowed(const VelBaseUnknown_WR& iParameter) const {
-  const VelComponent* const component = iParameter.Get();
-  return std::any_of(followed_.begin(), followed_.end(),
-                     [&](const Followed& iFollowed) { return iFollowed.parameters.contains(component); });
-}
-
 bool VelRmaRefresh::Run() {
   isRunning_ = true;
   bool hasUpdated = false;
   while (pending_.HasNext()) {
     const VelRmaPendingUpdates::Update update = pending_.Take();
     VelIRshParameterPrivate_var hParameter;
-    if (!IsFollowed(update.parameter) || FAILED(update.parameter.Query(hParameter.Receive()))) continue;
+    if (FindAbove(update.parameter) == nullptr || FAILED(update.parameter.Query(hParameter.Receive()))) continue;
     hasUpdated = true;
     static_cast<void>(update.change == VelRmaChange::Value ? hParameter->UpdateValue()
                                                            : hParameter->UpdateConnection());

@@ -4,8 +4,9 @@
 #ifndef HOST_REFRESH_VELRMAREFRESH_H
 #define HOST_REFRESH_VELRMAREFRESH_H
 
+#include <cstdint>
 #include <map>
-#include <vector>
+#include <unordered_map>
 
 #include "host/refresh/VelRmaPendingUpdates.h"
 #include "platform/base/VelEditScope.h"
@@ -35,6 +36,7 @@ class VelRmaRefresh final : public VelImplementation, private VelEditScopeListen
  private:
   /// A material that is followed, and the parameters that were there when it was last looked at.
   struct Followed {
+    std::uint64_t number;  ///< Materials are looked at in the order in which they were attached.
     VelBaseUnknown_WR material;
     std::map<const VelComponent*, VelBaseUnknown_WR> parameters;
   };
@@ -47,22 +49,27 @@ class VelRmaRefresh final : public VelImplementation, private VelEditScopeListen
   void OnEditsEnded() override;
   void Receive(VelNotification& ioNotification) override;
 
-  std::vector<Followed>::iterator Find(VelBaseUnknown& iMaterial);
+  /// @param[in] iMaterial null is followed by nobody
+  Followed* Find(VelBaseUnknown* iMaterial);
+
+  /// @return the followed material that stands above a parameter, null when there is none
+  Followed* FindAbove(const VelBaseUnknown_WR& iParameter);
+
   void Listen(const VelRmaGraphWalk& iWalk);
   void StopListening(const VelRmaGraphWalk& iWalk);
 
-  /// Looks at the graphs again: listens to new shaders, and notes new parameters.
+  /// Looks at the graphs again that may have changed: listens to new shaders, and notes new parameters. A change that
+  /// is heard concerns the material above it; where features found or lost their place, all materials are looked at.
   void LookAgain();
-  void LookAgainAt(Followed& ioFollowed, const VelRmaGraphWalk& iWalk);
-
-  /// Whether a parameter stood below one of the materials when they were last looked at.
-  bool IsFollowed(const VelBaseUnknown_WR& iParameter) const;
+  void LookAgainAt(Followed& ioFollowed);
 
   /// @return false when there was nothing to update
   bool Run();
 
-  std::vector<Followed> followed_;
+  std::unordered_map<const VelComponent*, Followed> followed_;
   VelRmaPendingUpdates pending_;
+  std::uint64_t attached_ = 0;
+  std::uint64_t placesAtLastLook_ = 0;  ///< VelSpecChanges::CountOfPlaces when all materials were last looked at.
   bool isRunning_ = false;
 };
 

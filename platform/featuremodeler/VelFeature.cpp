@@ -63,7 +63,7 @@ void VelFeature::ClearValue(unsigned iAttribute) noexcept {
       break;
     case VelSpecAttrKind::Components:
       for (VelFeature* component : *slot.components) component->father_ = nullptr;
-      VelSpecChanges::Note();
+      VelSpecChanges::NotePlace();
       delete slot.components;
       break;
     case VelSpecAttrKind::Document:
@@ -90,7 +90,7 @@ HRESULT VelFeature::Append(unsigned iAttribute, VelFeature& ioComponent) {
   slot.components->push_back(&ioComponent);
   SetValuated(iAttribute);
   ioComponent.father_ = this;
-  VelSpecChanges::Note();
+  VelSpecChanges::NotePlace();
   VelBuilder::CatchUpWithFathers(ioComponent);
   return S_OK;
 }
@@ -102,7 +102,7 @@ HRESULT VelFeature::TakeOut(unsigned iAttribute, VelFeature& ioComponent) {
   if (place == components.end()) return E_FAIL;
   components.erase(place);
   ioComponent.father_ = nullptr;
-  VelSpecChanges::Note();
+  VelSpecChanges::NotePlace();
   // A list is valuated while it has elements.
   if (components.empty()) ClearValue(iAttribute);
   return S_OK;

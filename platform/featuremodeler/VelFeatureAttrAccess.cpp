@@ -108,7 +108,7 @@ HRESULT VelFeatureAttrAccess::SetText(const VelISpecAttrKey* iKey, const VelUnic
   Feature().ClearValue(attribute);
   Feature().Slot(attribute).text = text;
   Feature().SetValuated(attribute);
-  VelSpecChanges::Note();
+  VelSpecChanges::NoteText();
   return S_OK;
 }
 

@@ -9,18 +9,23 @@
 #include "platform/base/VelPlatformApi.h"
 
 /// Counts, over all containers, the texts that were written and the features that got or lost a father. Whoever
-/// remembers what follows from the names and places of features keeps the count with it, and looks anew when it has
+/// remembers what follows from the names and places of features keeps a count with it, and looks anew when it has
 /// grown. Thread: the application thread.
 class VEL_PLATFORM_API VelSpecChanges {
  public:
-  /// @return a number that never falls
-  static std::uint64_t Count() noexcept { return count_; }
+  /// @return how many texts and places changed, a number that never falls
+  static std::uint64_t Count() noexcept { return texts_ + places_; }
+
+  /// @return how many features got or lost a father, a number that never falls
+  static std::uint64_t CountOfPlaces() noexcept { return places_; }
 
   /// For the feature modeler.
-  static void Note() noexcept { ++count_; }
+  static void NoteText() noexcept { ++texts_; }
+  static void NotePlace() noexcept { ++places_; }
 
  private:
-  static std::uint64_t count_;
+  static std::uint64_t texts_;
+  static std::uint64_t places_;
 };
 
 #endif  // PLATFORM_FEATUREMODELER_VELSPECCHANGES_H

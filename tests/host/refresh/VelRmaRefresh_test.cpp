@@ -257,16 +257,30 @@ TEST_F(VelRmaRefreshTest, Detach_ForgetsWhatWasHeard) {
   EXPECT_EQ(TakeUpdates(), Texts{});
 }
 
-TEST_F(VelRmaRefreshTest, Detach_LeavesOtherMaterialsOfTheSameShaders) {
+TEST_F(VelRmaRefreshTest, Detach_LeavesTheShadersOfOtherMaterialsToThem) {
   const VelIRshShader_var hOther = MakeShader("OtherType");
   EXPECT_EQ(Add(hOther, "p", "VelRmaScalar")->SetConnection(hNode_.Get()), S_OK);
   const VelIRenderingMaterial_var hOtherMaterial = MakeMaterial(hOther);
   Attach();
   ASSERT_EQ(hRefresh_->Attach(hOtherMaterial.Get()), S_OK);
-  EXPECT_EQ(hRefresh_->Detach(hMaterial_.Get()), S_OK);
+  EXPECT_EQ(hRefresh_->Detach(hOtherMaterial.Get()), S_OK);
   Set(hInner_, 0.5F);
   EXPECT_EQ(hRefresh_->Flush(), S_OK);
   EXPECT_EQ(TakeUpdates(), Texts{"value"});
+}
+
+TEST_F(VelRmaRefreshTest, AnEditOfOneMaterial_LooksAtNoOther) {
+  Attach();
+  const VelIRshShader_var hOther = MakeShader("OtherType");
+  const VelIRshParameter_var hParameter = Add(hOther, "p", "VelRmaScalar");
+  const VelIRenderingMaterial_var hOtherMaterial = MakeMaterial(hOther);
+  ASSERT_EQ(hRefresh_->Attach(hOtherMaterial.Get()), S_OK);
+  static_cast<void>(hRefresh_->Flush());
+  traces_.Clear();
+  Set(hA_, 0.5F);
+  Set(hParameter, 0.5F);
+  EXPECT_EQ(hRefresh_->Flush(), S_OK);
+  EXPECT_EQ(TakeUpdates(), (Texts{"value", "value"}));
 }
 
 TEST_F(VelRmaRefreshTest, AMaterialThatIsGone_IsNoHarm) {
