@@ -25,6 +25,7 @@
 #include "platform/images/decoders/VelAssociatedAlpha.h"
 #include "platform/images/decoders/VelCompressionBound.h"
 #include "platform/images/decoders/VelExrChannels.h"
+#include "platform/images/decoders/VelExrHeaders.h"
 #include "platform/images/decoders/VelImageSourceCursor.h"
 #include "platform/images/pixels/VelPixelBuffer.h"
 
@@ -198,6 +199,7 @@ std::string CauseOf(const std::exception& iException) {
 HRESULT DecodeInto(VelImageSource& ioSource, VelPixelBuffer& oImage, std::string& oCause) {
   Imf::Header::setMaxImageSize(VelPixelImage::largestSide, VelPixelImage::largestSide);
   Imf::Header::setMaxTileSize(VelPixelImage::largestSide, VelPixelImage::largestSide);
+  VEL_RETURN_IF_FAILED(VelExrHeaders::Check(ioSource, oCause));
   Stream stream(ioSource);
   // No threads, and no search of a damaged file for what might be its rows.
   Imf::MultiPartInputFile file(stream, 0, false);

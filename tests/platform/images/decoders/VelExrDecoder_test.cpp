@@ -173,8 +173,8 @@ TEST(VelExrDecoder, OfAnUnfitFile_TheCauseIsTold) {
     const char* cause;
   };
   const Case cases[] = {
-      {"empty", "", "is a damaged OpenEXR file: it ends too early"},
-      {"another format", std::string(64, 'x'), "is a damaged OpenEXR file: File is not an image file."},
+      {"empty", "", "is a damaged OpenEXR file: its header goes beyond its end"},
+      {"another format", std::string(64, '\0'), "is a damaged OpenEXR file: File is not an image file."},
       {"too large", sized(100000, 100000, 0, 0), "is a damaged OpenEXR file: The width of the data window exceeds"},
       {"as wide as can be written", sized(0x7FFFFFFF, 1, 0, 0), "is a damaged OpenEXR file: Invalid data window"},
       {"a window of no size", sized(0, 0, 0, 0), "is a damaged OpenEXR file: "},
