@@ -249,7 +249,6 @@ TEST_F(VelRshAppearanceUpdaterLimitsTest, NullHandle_IsReportedByTheEntryPoint) 
   EXPECT_EQ(VelIRshParameterPrivate_var(hScale)->UpdateValue(), E_FAIL);
   EXPECT_EQ(checks_.Messages(), Texts{"An operation of an interface threw an exception"});
   checks_.Clear();
-  EXPECT_EQ(Told().back(), valueDone);
 }
 
 TEST_F(VelRshAppearanceUpdaterLimitsTest, RootParameterRemovedDuringTheConversionOfBump_IsPassedOver) {
