@@ -11,11 +11,12 @@
 class VelImageSource;
 
 /// The library makes room for each attribute of a header before it reads it, as long as the file tells: up to two
-/// gigabytes for a file of a hundred bytes. So the lengths are compared with the file's first.
+/// gigabytes for a file of a hundred bytes. And of most types it reads what the type needs, whatever length is told. So
+/// the lengths are compared first, with the file's and with those of the types.
 class VelExrHeaders {
  public:
   /// @param[out] oCause the reason of a failure, made to follow the path in a message; untouched otherwise
-  /// @return S_OK; E_FAIL when an attribute is longer than what is left of the file, or the file ends in a header
+  /// @return S_OK; E_FAIL when an attribute is not of the length of its type or longer than what is left of the file
   static HRESULT Check(VelImageSource& ioSource, std::string& oCause);
 };
 

@@ -173,7 +173,7 @@ TEST(VelExrDecoder, OfAnUnfitFile_TheCauseIsTold) {
     const char* cause;
   };
   const Case cases[] = {
-      {"empty", "", "is a damaged OpenEXR file: its header goes beyond its end"},
+      {"empty", "", "is a damaged OpenEXR file: its header has an attribute of a wrong length"},
       {"another format", std::string(64, '\0'), "is a damaged OpenEXR file: File is not an image file."},
       {"too large", sized(100000, 100000, 0, 0), "is a damaged OpenEXR file: The width of the data window exceeds"},
       {"as wide as can be written", sized(0x7FFFFFFF, 1, 0, 0), "is a damaged OpenEXR file: Invalid data window"},

@@ -29,6 +29,9 @@ TEST(VelImageDecoders, AShortFile_GetsNoMemoryForTheImageItClaims) {
   // 512 groups of 16 rows, none of which has a byte.
   const ExrBytes rows{0, 0, 8191, 8191, {{"B"}, {"G"}, {"R"}}, std::vector<std::string>(512), 0, 3};
   const ExrBytes tile{0, 0, 8191, 8191, {{"Y"}}, {std::string(4, '\0')}, 8192, 3};
+  const auto attribute = [](const std::string& iType, std::uint64_t iLength) {
+    return std::string("a") + '\0' + iType + '\0' + LittleEndian(iLength, 4);
+  };
   const std::string exrHead = BytesOf({0x76, 0x2F, 0x31, 0x01, 2, 0, 0, 0});
   struct Case {
     const char* name;
@@ -49,8 +52,13 @@ TEST(VelImageDecoders, AShortFile_GetsNoMemoryForTheImageItClaims) {
        TiffBytes{1, 1, 8, 1, 1, {"abcd"}, {{259, {8}}, {322, {16384}}, {323, {16384}}}}.File()},
       {"OpenEXR of rows", VelImageKind::Exr, rows.File()},
       {"OpenEXR of a tile", VelImageKind::Exr, tile.File()},
-      {"OpenEXR of a long text", VelImageKind::Exr,
-       exrHead + "comments" + '\0' + "string" + '\0' + LittleEndian(0x7FFFFFFF, 4)},
+      {"OpenEXR of a long text", VelImageKind::Exr, exrHead + attribute("string", 0x7FFFFFFF)},
+      {"OpenEXR of a long text in a float", VelImageKind::Exr,
+       exrHead + attribute("float", 80) + "abcd" + attribute("string", 0x7FFFFFFF) + std::string(80, 'x')},
+      {"OpenEXR of a long text in channels", VelImageKind::Exr,
+       exrHead + attribute("chlist", 80) + '\0' + attribute("string", 0x7FFFFFFF) + std::string(80, 'x')},
+      {"OpenEXR of a long text among others", VelImageKind::Exr,
+       exrHead + attribute("stringvector", 80) + LittleEndian(0x7FFFFFFF, 4) + std::string(80, 'x')},
   };
   constexpr long allowedKilobytes = 64L * 1024;
   for (const Case& example : cases) {
