@@ -10,12 +10,19 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/base/VelVisibility.h"
 #include "platform/images/pixels/VelImageSource.h"
 #include "platform/images/worker/VelSvgDrawing.h"
 #include "platform/images/worker/VelSvgGroups.h"
 #include "platform/images/worker/VelSvgOutline.h"
 #include "platform/images/worker/VelSvgText.h"
 #include "platform/images/worker/VelWorkerPicture.h"
+
+// The libraries that draw keep the entities of texts and the list of fonts for good. The names are the sanitizer's.
+extern "C" VEL_EXPORT const char* __lsan_default_suppressions();  // NOLINT
+extern "C" VEL_EXPORT const char* __lsan_default_suppressions() {
+  return "leak:libxml2\nleak:libfontconfig\n";
+}  // NOLINT
 
 namespace {
 

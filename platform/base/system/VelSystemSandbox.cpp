@@ -68,6 +68,9 @@ constexpr int allowedCalls[] = {
     SCMP_SYS(sendmsg),
 };
 
+// A sanitizer tries memory by writing it into a pipe.
+constexpr int sanitizerCalls[] = {SCMP_SYS(pipe), SCMP_SYS(pipe2)};
+
 constexpr int allowedFileCommands[] = {F_GETFD, F_SETFD, F_GETFL, F_ADD_SEALS, F_GET_SEALS};
 
 // Libraries look for files that they can do without, and take this answer better than any other.
@@ -110,6 +113,9 @@ scmp_arg_cmp HasBits(unsigned iArgument, scmp_datum_t iMask, scmp_datum_t iBits)
 
 void AddRules(Rules& ioRules, int iChannel) noexcept {
   for (const int call : allowedCalls) ioRules.Add(SCMP_ACT_ALLOW, call);
+  if (VelSystemSandbox::isSanitized) {
+    for (const int call : sanitizerCalls) ioRules.Add(SCMP_ACT_ALLOW, call);
+  }
   for (const int call : refusedPathCalls) ioRules.Add(SCMP_ACT_ERRNO(EACCES), call);
   for (const int call : confirmedPathCalls) ioRules.Add(SCMP_ACT_ERRNO(0), call);
   // What comes through the channel is for the parent.

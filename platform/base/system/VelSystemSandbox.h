@@ -9,10 +9,24 @@
 
 #include "platform/base/HResult.h"
 
+#if defined(__SANITIZE_ADDRESS__)
+#define VEL_IS_SANITIZED true
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define VEL_IS_SANITIZED true
+#endif
+#endif
+#if !defined(VEL_IS_SANITIZED)
+#define VEL_IS_SANITIZED false
+#endif
+
 /// For processes that handle hostile data: nothing that is taken comes back. Every operation but CloseFrom has the
 /// reason of a failure in oCause, in English, which stays untouched otherwise.
 class VelSystemSandbox {
  public:
+  /// Whether a sanitizer watches the program, which needs more than the program does.
+  static constexpr bool isSanitized = VEL_IS_SANITIZED;
+
   /// What the process may use up.
   struct Limits {
     std::uint64_t memory = 0;  ///< Bytes of address space; 0 for no limit.
@@ -39,5 +53,7 @@ class VelSystemSandbox {
   /// @return S_OK; E_FAIL when the system cannot filter its calls: then the process is as free as before
   static HRESULT Enter(int iChannel, std::string& oCause);
 };
+
+#undef VEL_IS_SANITIZED
 
 #endif  // PLATFORM_BASE_SYSTEM_VELSYSTEMSANDBOX_H

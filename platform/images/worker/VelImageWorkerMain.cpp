@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
 /// @file VelImageWorkerMain.cpp The program velrsh-image-worker.
+#include <cstdlib>
 #include <string>
 
 #include "platform/base/system/VelSystemChannel.h"
@@ -32,5 +33,6 @@ int main() {
   VelSystemSandbox::CloseFrom(channelDescriptor + 1);
   VelImageWorkerWarmUp::Run();
   VelImageWorkerServer(channel).Serve();
-  return 0;
+  // What the libraries have in memory goes with the process; nothing is to be tidied up or written.
+  std::_Exit(0);
 }

@@ -17,12 +17,6 @@
 #include "platform/images/worker/VelImageWorkerOrder.h"
 #include "platform/images/worker/VelWorkerPicture.h"
 
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define VEL_HAS_ADDRESS_SANITIZER
-#endif
-#endif
-
 namespace {
 
 using VelImageWorkerMessage::Reply;
@@ -33,12 +27,8 @@ constexpr std::uint64_t mostMemory = 1536 * mebibyte;
 constexpr int mostSeconds = 8;
 constexpr int sendMilliseconds = 2000;
 
-#if defined(__SANITIZE_ADDRESS__) || defined(VEL_HAS_ADDRESS_SANITIZER)
-// The sanitizer takes terabytes of addresses before the first byte is used.
-constexpr std::uint64_t memoryLimit = 0;
-#else
-constexpr std::uint64_t memoryLimit = mostMemory;
-#endif
+// A sanitizer takes terabytes of addresses before the first byte is used.
+constexpr std::uint64_t memoryLimit = VelSystemSandbox::isSanitized ? 0 : mostMemory;
 
 constexpr VelSystemSandbox::Limits limits{memoryLimit, mostSeconds, 512 * mebibyte, 64};
 

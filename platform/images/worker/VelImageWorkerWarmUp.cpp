@@ -6,12 +6,15 @@
 #include <iconv.h>
 
 #include <array>
+#include <chrono>
 #include <cstdlib>
 #include <span>
 #include <string>
 #include <string_view>
+#include <thread>
 #include <vector>
 
+#include "platform/base/system/VelSystemFile.h"
 #include "platform/images/pixels/VelImageSource.h"
 #include "platform/images/worker/VelImageWorkerOrder.h"
 #include "platform/images/worker/VelWorkerFonts.h"
@@ -59,6 +62,19 @@ void Decode(const Sample& iSample) {
   static_cast<void>(order.Carry(source, picture, unknown, cause));
 }
 
+/// Looking for fonts takes a thread, which ends some time after its work. What it holds when the process is copied
+/// would be held in the copy for good.
+void AwaitOtherThreads() {
+  constexpr int mostMilliseconds = 1000;
+  std::vector<std::string> threads;
+  std::string cause;
+  for (int i = 0; i < mostMilliseconds; ++i) {
+    const HRESULT code = VelSystemFile::ListFolder("/proc/self/task", "", threads, cause);
+    if (FAILED(code) || threads.size() <= 1) return;
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+}
+
 }  // namespace
 
 void VelImageWorkerWarmUp::Run() {
@@ -68,4 +84,5 @@ void VelImageWorkerWarmUp::Run() {
   // Never closed: a library without a user may be unloaded.
   for (const char* encoding : encodings) static_cast<void>(::iconv_open("UTF-8", encoding));
   for (const Sample& sample : samples) Decode(sample);
+  AwaitOtherThreads();
 }

@@ -152,9 +152,8 @@ void SeparateAlpha(std::span<std::byte> ioPixels) {
 
 /// The names as the checks want them: sorted, each once.
 void Arrange(std::vector<std::string>& ioNames) {
-  std::ranges::sort(ioNames);
-  const auto rest = std::ranges::unique(ioNames);
-  ioNames.erase(rest.begin(), rest.end());
+  std::sort(ioNames.begin(), ioNames.end());
+  ioNames.erase(std::unique(ioNames.begin(), ioNames.end()), ioNames.end());
 }
 
 }  // namespace
