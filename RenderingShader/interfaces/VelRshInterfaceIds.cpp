@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 /// @file VelRshInterfaceIds.cpp The identifiers of the interfaces.
 #include "RenderingShader/interfaces/VelIAlias.h"
+#include "RenderingShader/interfaces/VelIRmaShaderFactory.h"
 #include "RenderingShader/interfaces/VelIRshParameter.h"
 #include "RenderingShader/interfaces/VelIRshParameterDialog.h"
 #include "RenderingShader/interfaces/VelIRshParameterImmLayout.h"
@@ -9,6 +10,7 @@
 #include "RenderingShader/interfaces/VelIRshParameterPublisher.h"
 #include "RenderingShader/interfaces/VelIRshParameterSubscriber.h"
 #include "RenderingShader/interfaces/VelIRshShader.h"
+#include "RenderingShader/interfaces/VelIRshShaderFactory.h"
 #include "RenderingShader/interfaces/VelIRshShaderLink.h"
 #include "RenderingShader/interfaces/VelIRshShaderPrivate.h"
 #include "RenderingShader/interfaces/VelIRshShaderPublisher.h"
@@ -30,3 +32,5 @@ const VelInterfaceId IID_VelIRshShaderPublisher{"VelIRshShaderPublisher", IID_Ve
 const VelInterfaceId IID_VelIRshShaderResources{"VelIRshShaderResources", IID_VelBaseUnknown};
 const VelInterfaceId IID_VelIRshShaderSubscriber{"VelIRshShaderSubscriber", IID_VelBaseUnknown};
 const VelInterfaceId IID_VelIRshShaderSupport{"VelIRshShaderSupport", IID_VelBaseUnknown};
+const VelInterfaceId IID_VelIRshShaderFactory{"VelIRshShaderFactory", IID_VelBaseUnknown};
+const VelInterfaceId IID_VelIRmaShaderFactory{"VelIRmaShaderFactory", IID_VelIRshShaderFactory};
