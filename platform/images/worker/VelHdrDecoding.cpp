@@ -3,10 +3,6 @@
 /// @file VelHdrDecoding.cpp Decodes by stb_image, which fills what is missing with zeros unless it is checked before.
 #include "platform/images/worker/VelHdrDecoding.h"
 
-#define STB_IMAGE_IMPLEMENTATION
-#define STB_IMAGE_STATIC
-#define STBI_ONLY_HDR
-#define STBI_NO_STDIO
 #include <stb/stb_image.h>
 
 #include <cstddef>
