@@ -84,7 +84,7 @@ std::string ConditionsOf(const VelSvgAttributes& iAttributes) {
 }
 
 HRESULT Refuse(std::string_view iWhat, std::size_t iMost, std::string& oCause) {
-  oCause = "has " + std::string(iWhat) + " than is drawn; expected at most " + std::to_string(iMost);
+  oCause = "has " + std::string(iWhat) + "; expected at most " + std::to_string(iMost);
   return E_FAIL;
 }
 
@@ -118,7 +118,7 @@ class VelSvgOutline::Listener final : public VelSvgXmlListener {
   HRESULT OnText(std::size_t iLength, std::string& oCause) override {
     if (!open_.back().isText) return S_OK;
     text_ += iLength;
-    return text_ <= mostText ? S_OK : Refuse("more bytes of text", mostText, oCause);
+    return text_ <= mostText ? S_OK : Refuse("too many bytes of text", mostText, oCause);
   }
 
  private:
@@ -129,15 +129,16 @@ class VelSvgOutline::Listener final : public VelSvgXmlListener {
   };
 
   HRESULT CheckLimits(std::string_view iName, const VelSvgAttributes& iAttributes, std::string& oCause) {
-    if (++count_ > mostElements) return Refuse("more elements", mostElements, oCause);
-    if (open_.size() >= mostDepth) return Refuse("elements in more elements", mostDepth, oCause);
-    if (iAttributes.Count() > mostAttributes) return Refuse("an element with more attributes", mostAttributes, oCause);
+    if (++count_ > mostElements) return Refuse("too many elements", mostElements, oCause);
+    if (open_.size() >= mostDepth) return Refuse("too many elements inside each other", mostDepth, oCause);
+    if (iAttributes.Count() > mostAttributes)
+      return Refuse("an element with too many attributes", mostAttributes, oCause);
     for (const Multiplier& multiplier : multipliers) {
       if (multiplier.element != iName) continue;
       const auto value = iAttributes.Find(multiplier.attribute);
       if (!value || !Exceeds(*value, multiplier.most)) continue;
       oCause = "has a filter " + std::string(iName) + " whose " + std::string(multiplier.attribute) +
-               " is larger than is drawn; expected at most " + std::to_string(multiplier.most);
+               " is too large; expected at most " + std::to_string(multiplier.most);
       return E_FAIL;
     }
     return S_OK;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 /// @file VelSvgDrawing_Groups_test.cpp Some groups of an SVG file, pixel by pixel.
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -39,8 +40,8 @@ std::string SwitchedOff(const char* iAttributes) {
          "><rect width='4' height='4' fill='red'/></g><rect width='16' height='16'/>";
 }
 
-const std::vector<Case>& Cases() {
-  static const std::vector<Case> cases{
+std::vector<Case> PlacedCases() {
+  return {
       {"OneOfNested", nested, {"inner"}, Empty().Rectangle(2, 3, 4, 4, red)},
       {"TheOtherOfNested", nested, {"other"}, Empty().Rectangle(8, 3, 4, 4, blue)},
       {"TheOuterOfNested", nested, {"outer"}, Empty().Rectangle(2, 3, 4, 4, red).Rectangle(8, 3, 4, 4, blue)},
@@ -60,6 +61,11 @@ const std::vector<Case>& Cases() {
        {"a", "b"},
        Empty().Group(Empty().Rectangle(0, 0, 8, 8, red).Rectangle(4, 4, 8, 8, blue), 0.5)},
       {"OpacityAroundOne", halfTransparent, {"b"}, Empty().Rectangle(4, 4, 8, 8, {0, 0, 1, 0.5})},
+  };
+}
+
+std::vector<Case> UsingCases() {
+  return {
       {"UseOfDefinition",
        "<defs><rect id='r' width='4' height='4' fill='red'/></defs><g id='a'><use xlink:href='#r' x='4' y='2'/></g>"
        "<g id='b'><use xlink:href='#r'/></g>",
@@ -101,6 +107,11 @@ const std::vector<Case>& Cases() {
        {"a"},
        Empty().Rectangle(4, 0, 4, 8, red)},
       {"SwitchedOffByAttribute", nullptr, {"a"}, Empty().Rectangle(0, 0, 4, 4, red)},
+  };
+}
+
+std::vector<Case> OddCases() {
+  return {
       {"LabelOfALayer",
        "<g id='layer1' inkscape:label='Layer 1'><rect width='4' height='4' fill='red'/></g><g id='layer2' "
        "inkscape:label='Layer 2'><rect width='16' height='16'/></g>",
@@ -160,6 +171,12 @@ const std::vector<Case>& Cases() {
        {"a", "b"},
        Empty().Rectangle(0, 0, 4, 4, red).Rectangle(4, 0, 4, 4, blue)},
   };
+}
+
+std::vector<Case> Cases() {
+  std::vector<Case> cases = PlacedCases();
+  for (Case& one : UsingCases()) cases.push_back(std::move(one));
+  for (Case& one : OddCases()) cases.push_back(std::move(one));
   return cases;
 }
 

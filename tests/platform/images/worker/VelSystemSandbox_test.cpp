@@ -167,6 +167,17 @@ TEST(VelSystemSandbox, AConfinedProcess_CanEndItselfByAbort) {
   EXPECT_EQ(outcome.number, SIGABRT);
 }
 
+// A confined process may not even ask for it, which is as good as a system that has no filters.
+TEST(VelSystemSandbox, AProcessThatCannotBeConfined_IsTold) {
+  EXPECT_EQ(Try([] {
+              std::string cause;
+              const bool isTold = FAILED(VelSystemSandbox::Enter(channel, cause)) &&
+                                  cause == "the system does not filter the calls of a process: permission denied";
+              return isTold ? 0 : 1;
+            }),
+            0);
+}
+
 TEST(VelSystemSandbox, Limits_AreThoseThatWereAskedFor) {
   const VelSystemFork::Outcome outcome = RunCopy([] {
     std::string cause;
