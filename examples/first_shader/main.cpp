@@ -102,7 +102,8 @@ int main(int argc, char** argv) {
   // What the environment switches on (VEL_TRACE) is kept; without it the demonstration shows the factory's channel.
   VelString switches;
   if (!VelEnvironment::Get("VEL_TRACE", switches) || switches.IsEmpty()) {
-    VelTraceService::SetSwitches("VelRshModelFactoryFeature");
+    // Below no material there is no appearance to bring up to date, which would be told for each parameter.
+    VelTraceService::SetSwitches("VelRshModelFactoryFeature,VelRshAppearanceUpdater=error");
   }
   {
     const VelIContainer_var hContainer = VelIContainer::Create();

@@ -8,7 +8,9 @@
 #include "RenderingShader/VelRshModel.m/include/VelRshModelFactoryFeature.h"
 #include "RenderingShader/interfaces/VelIAlias.h"
 #include "RenderingShader/interfaces/VelIRshShaderResources.h"
+#include "platform/base/VelEnvironment.h"
 #include "platform/session/VelPlatformSession.h"
+#include "platform/trace/VelTraceService.h"
 
 namespace {
 
@@ -61,6 +63,11 @@ int main(int argc, char** argv) {
   options.dictionaries.push_back(argc > 1 ? argv[1] : FindDictionaries(argv[0]));
   options.catalogs.emplace_back(VEL_EXAMPLE_CATALOG);
   if (FAILED(session.Start(options))) return 1;
+  VelString switches;
+  if (!VelEnvironment::Get("VEL_TRACE", switches) || switches.IsEmpty()) {
+    // Below no material there is no appearance to bring up to date, which would be told for each parameter.
+    VelTraceService::SetSwitches("VelRshAppearanceUpdater=error");
+  }
   {
     const VelIContainer_var hContainer = VelIContainer::Create();
     if (!ShowResources(*hContainer)) {
