@@ -14,9 +14,8 @@
 /// the parameters of that name in the sub-shaders that are connected to the material's root shader.
 ///
 /// - Boolean, integral, float, colour, string: to a parameter of that very type; a float is narrowed.
-/// - Topology: a VelIRshShader is connected, an empty one disconnected; a VelIPLMDmtDocument becomes the value. What
-/// was
-///   applied is dispatched by the material's model events. Anything else is false.
+/// - Topology: a VelIRshShader is connected, an empty one disconnected; a VelIPLMDmtDocument becomes the value. The
+///   material's model events dispatch what was applied. Anything else is false.
 /// - Reset: the default value of the parameter's dialog; boolean, integer, scalar, colour and string parameters only.
 /// - Equal values before and after: true, and nothing is done.
 ///

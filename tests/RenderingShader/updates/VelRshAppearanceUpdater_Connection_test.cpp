@@ -140,6 +140,15 @@ TEST_F(VelRshAppearanceUpdaterConnectionTest, PlainTexture_FillsTheEntryWithTheP
   }
 }
 
+TEST_F(VelRshAppearanceUpdaterConnectionTest, DocumentThatDoesNotTellItsFormat_IsNoSvgTexture) {
+  const VelIRshParameter_var hTexture = AddSvg(Connect("slotted"), "/a.svg", 72, "one");
+  VelBaseUnknown_var hDocument;
+  ASSERT_EQ(hTexture->GetValue(hDocument.Receive()), S_OK);
+  FakeDocument::Of(*hDocument).format.code = E_FAIL;
+  Update();
+  EXPECT_EQ(images_.Take()[1], "CreatePixelImageFromFullPath(/a.svg, [], 72)");
+}
+
 TEST_F(VelRshAppearanceUpdaterConnectionTest, SvgTexture_IsDrawnWithTheValuesOfItsShader) {
   for (const char* format : {"svg", "SVG", "Svg"}) {
     SCOPED_TRACE(format);

@@ -4,6 +4,7 @@
 #include "RenderingShader/VelRshModel.m/src/updates/VelRshAppearanceUpdater.h"
 #include "platform/objectmodeler/VelNullHandleError.h"
 #include "tests/RenderingShader/updates/UpdatesTest.h"
+#include "tests/RenderingShader/updates/fixtures/FakeParameter.h"
 #include "tests/RenderingShader/updates/fixtures/FakeShyParameter.h"
 
 namespace {
@@ -177,6 +178,18 @@ TEST_F(VelRshAppearanceUpdaterLimitsTest, MaterialWithoutAShader_IsAWarning) {
   EXPECT_EQ(WithoutAddresses(Told()[1]), missing);
   EXPECT_EQ(Told()[2], connectionDone);
   ExpectNothingChanged();
+}
+
+TEST_F(VelRshAppearanceUpdaterLimitsTest, Flags_AreAskedForOnceAndInOrder) {
+  const FakeParameterBindings bindings;
+  FakeParameter::Notes notes;
+  const VelIRshParameter_var hFake = FakeParameter::Create("fake", "VelRmaScalar", notes);
+  Listen();
+  VelRshAppearanceUpdater updater(*hFake);
+  EXPECT_EQ(notes, (Texts{"fake texture", "fake tag 20", "fake tag 0", "fake tag 1", "fake tag 2"}));
+  notes.clear();
+  updater.OnValueUpdate();
+  EXPECT_EQ(notes, Texts{});
 }
 
 TEST_F(VelRshAppearanceUpdaterLimitsTest, ParameterWithoutAPrivateSide_HasNoFlagsOnANewUpdater) {

@@ -117,6 +117,17 @@ TEST_F(VelRshTranslatorResetTest, WriteThatFails_IsNotHandled) {
   }
 }
 
+TEST_F(VelRshTranslatorResetTest, EditOfAnotherType_IsRefusedBeforeItIsWritten) {
+  const FakeParameterBindings bindings;
+  FakeParameter::Notes notes;
+  const VelIRshParameter_var hVector = FakeParameter::Create("vector", "VelRmaVector", notes);
+  const VelIRshParameter_var hTexture = FakeParameter::Create("texture", "VelRmaTexture", notes);
+  FakeParameter::Of(hVector).parent = FakeParameter::Of(hTexture).parent = hRoot_.Get();
+  EXPECT_FALSE(Send<SentColor>(hVector));
+  EXPECT_FALSE(Send<SentString>(hTexture)) << "which is what the host hears when a document was set";
+  EXPECT_EQ(notes, Texts{});
+}
+
 TEST_F(VelRshTranslatorResetTest, EditThatCannotBeWritten_IsNotHandled) {
   const FakeParameterBindings bindings;
   FakeParameter::Notes notes;
