@@ -113,7 +113,7 @@ class VEL_RSH_MODEL_API VelRshShaderManager : public VelCommand {
                                const VelListPtrVelBaseUnknown* iSourceSubShaders,
                                const VelListPtrVelBaseUnknown* iTargetSubShaders);
 
-  static VelRshShaderManager* _manager;
+  static VelRshShaderManager* _manager;  // NOLINT(readability-identifier-naming): the name of the system
 
   VelListPtrVelBaseUnknown factories_;      ///< In the order of discovery; an entry may be null.
   VelListPtrVelBaseUnknown typeFactories_;  ///< Of each type, its factory; without references.
