@@ -84,6 +84,7 @@ TEST_F(VelRshTranslatorResolutionTest, WhatIsNoEditedResolution_DrawsNothing) {
   const VelIRshParameter_var hOther = AddInteger(hRoot_, "DPI", 72);
   const VelIRshParameter_var hScalar = AddScalar(hRoot_, "dpi", 72.0F);
   EXPECT_TRUE(SendDpi(hOther, 72, 144)) << "another name";
+  EXPECT_EQ(images_.Take(), Texts{});
   EXPECT_TRUE(SendDpi(hDpi_, 144, 144)) << "equal values";
   EXPECT_EQ(images_.Take(), Texts{});
   Listen();
