@@ -83,6 +83,15 @@ class Painting {
     return *this;
   }
 
+  /// @return the picture with a square of so many pixels a side in the place of each pixel
+  Painting Enlarged(int iTimes) const {
+    Painting enlarged(width_ * iTimes, height_ * iTimes);
+    for (int y = 0; y < enlarged.height_; ++y) {
+      for (int x = 0; x < enlarged.width_; ++x) enlarged.At(x, y) = At(x / iTimes, y / iTimes);
+    }
+    return enlarged;
+  }
+
   /// @return "" when each part of each pixel is within so many steps of 255; else where and how they differ first
   static std::string Difference(const Painting& iExpected, const Painting& iActual, int iSteps = 1) {
     if (iExpected.width_ != iActual.width_ || iExpected.height_ != iActual.height_) {

@@ -180,13 +180,26 @@ std::vector<Case> Cases() {
   return cases;
 }
 
+std::string ElementsOf(const Case& iCase) {
+  return iCase.elements != nullptr ? iCase.elements : SwitchedOff("display='none'");
+}
+
 TEST(VelSvgDrawingGroups, NamedGroups_AreDrawnInPlaceWithAllTheyUse) {
   for (const Case& one : Cases()) {
-    const std::string elements = one.elements != nullptr ? one.elements : SwitchedOff("display='none'");
-    const SvgPicture drawn(SvgPicture::TextOf(elements), 96, one.groups);
+    const SvgPicture drawn(SvgPicture::TextOf(ElementsOf(one)), 96, one.groups);
     EXPECT_EQ(drawn.code, S_OK) << one.name << ": " << drawn.cause;
     EXPECT_EQ(Painting::Difference(one.expected, drawn.picture), "") << one.name;
     EXPECT_TRUE(drawn.unknown.empty()) << one.name;
+  }
+}
+
+TEST(VelSvgDrawingGroups, NamedGroups_AreDrawnInPlaceAtEachResolution) {
+  for (const Case& one : Cases()) {
+    for (const Resolution& resolution : resolutionsOfWholePixels) {
+      const SvgPicture drawn(SvgPicture::LargeTextOf(ElementsOf(one)), resolution.dpi, one.groups);
+      EXPECT_EQ(Painting::Difference(one.expected.Enlarged(resolution.pixels), drawn.picture), "")
+          << one.name << " at " << resolution.dpi;
+    }
   }
 }
 

@@ -3,6 +3,7 @@
 /// @file VelSvgDrawing_test.cpp What SVG files show as a whole, pixel by pixel, and what they cannot reach.
 #include "platform/images/worker/VelSvgDrawing.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -67,17 +68,32 @@ TEST(VelSvgDrawing, Files_AreDrawnPixelByPixel) {
   }
 }
 
-TEST(VelSvgDrawing, AGradient_RunsEvenly) {
-  const SvgPicture drawn(SvgPicture::TextOf(
-      "<linearGradient id='l' gradientUnits='userSpaceOnUse' x1='4' x2='12'><stop offset='0' stop-color='red'/>"
-      "<stop offset='1' stop-color='lime' stop-opacity='0.5'/></linearGradient>"
-      "<rect width='16' height='16' fill='url(#l)'/>"));
-  Painting expected = Empty();
-  for (int x = 0; x < 16; ++x) {
-    const double share = std::min(1.0, std::max(0.0, (x + 0.5 - 4) / 8));
-    expected.Rectangle(x, 0, 1, 16, {1 - share, share, 0, 1 - share / 2});
+TEST(VelSvgDrawing, Files_AreDrawnPixelByPixelAtEachResolution) {
+  for (const Case& one : Cases()) {
+    for (const Resolution& resolution : resolutionsOfWholePixels) {
+      const SvgPicture drawn(SvgPicture::LargeTextOf(one.elements), resolution.dpi);
+      EXPECT_EQ(Painting::Difference(one.expected.Enlarged(resolution.pixels), drawn.picture), "")
+          << one.name << " at " << resolution.dpi;
+    }
   }
-  EXPECT_EQ(Painting::Difference(expected, drawn.picture, 2), "");
+}
+
+TEST(VelSvgDrawing, AGradient_RunsEvenlyAtEachResolution) {
+  for (const Resolution& resolution : resolutionsOfWholePixels) {
+    const SvgPicture drawn(
+        SvgPicture::LargeTextOf(
+            "<linearGradient id='l' gradientUnits='userSpaceOnUse' x1='4' x2='12'><stop offset='0' stop-color='red'/>"
+            "<stop offset='1' stop-color='lime' stop-opacity='0.5'/></linearGradient>"
+            "<rect width='16' height='16' fill='url(#l)'/>"),
+        resolution.dpi);
+    const int side = 16 * resolution.pixels;
+    Painting expected(side, side);
+    for (int x = 0; x < side; ++x) {
+      const double share = std::clamp(((x + 0.5) / resolution.pixels - 4) / 8, 0.0, 1.0);
+      expected.Rectangle(x, 0, 1, side, {1 - share, share, 0, 1 - share / 2});
+    }
+    EXPECT_EQ(Painting::Difference(expected, drawn.picture, 2), "") << resolution.dpi;
+  }
 }
 
 TEST(VelSvgDrawing, OtherFiles_AreOutOfReach) {
