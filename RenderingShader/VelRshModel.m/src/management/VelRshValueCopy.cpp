@@ -26,8 +26,8 @@ VelRshValueCopy CopyElements(VelIRshParameter& iSource, VelIRshParameter& ioTarg
 VelRshValueCopy CopyDocument(VelIRshParameter& iSource, VelIRshParameter& ioTarget) {
   VelBaseUnknown_var hDocument;
   VelRshValueCopy copy;
-  static_cast<void>(iSource.GetValue(hDocument.Receive()));
-  if (hDocument) copy.write = ioTarget.SetValue(hDocument.Get());
+  copy.read = iSource.GetValue(hDocument.Receive());
+  if (SUCCEEDED(copy.read) && hDocument) copy.write = ioTarget.SetValue(hDocument.Get());
   return copy;
 }
 
