@@ -16,8 +16,8 @@
 namespace VelImageWorkerMessage {
 
 constexpr std::uint32_t version = 1;
-constexpr std::size_t largestText = std::size_t{128} * 1024;  ///< Bytes behind a request's record.
-constexpr std::size_t largestCause = std::size_t{16} * 1024;  ///< Bytes behind a reply's record.
+constexpr std::size_t largestText = std::size_t{128} * 1024;  ///< Bytes behind a record: names of groups.
+constexpr std::size_t largestCause = std::size_t{16} * 1024;  ///< Bytes behind a reply's record: the reason.
 
 enum class Status : std::uint32_t {
   Done = 0,    ///< There is a picture. The text, where there is one, lists unknown group names, each ended by a NUL.

@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <cstring>
+#include <string_view>
 #include <type_traits>
+#include <unordered_set>
 
 #include "platform/base/system/VelSystemSharedBytes.h"
 
@@ -48,10 +50,10 @@ HRESULT VelImageWorkerReply::Parse(const std::string& iMessage, std::string& oCa
   if (record_.status > static_cast<std::uint32_t>(Status::Refused)) {
     return Fail("sent the unknown status " + std::to_string(record_.status), oCause);
   }
-  if (record_.textLength == text_.size() && text_.size() <= VelImageWorkerMessage::largestCause) return S_OK;
+  const std::size_t largest = IsRefusal() ? VelImageWorkerMessage::largestCause : VelImageWorkerMessage::largestText;
+  if (record_.textLength == text_.size() && text_.size() <= largest) return S_OK;
   return Fail("sent a text of " + std::to_string(text_.size()) + " bytes where it told " +
-                  std::to_string(record_.textLength) + ", and at most " +
-                  std::to_string(VelImageWorkerMessage::largestCause) + " are expected",
+                  std::to_string(record_.textLength) + ", and at most " + std::to_string(largest) + " are expected",
               oCause);
 }
 
@@ -101,12 +103,13 @@ HRESULT VelImageWorkerReply::TakeImage(VelSystemDescriptor iMemory, VelPixelBuff
 HRESULT VelImageWorkerReply::TakeUnknownGroups(const std::vector<std::string>& iAsked,
                                                std::vector<std::string>& oUnknown, std::string& oCause) const {
   if (!text_.empty() && text_.back() != '\0') return Fail("sent names of groups whose last one has no end", oCause);
+  // What was taken is no longer expected, so that a list of many names, or of one many times, takes no long time.
+  std::unordered_set<std::string_view> expected(iAsked.begin(), iAsked.end());
   std::vector<std::string> unknown;
   for (std::size_t begin = 0; begin < text_.size();) {
     const std::size_t end = text_.find('\0', begin);
-    const std::string name = text_.substr(begin, end - begin);
-    const bool isAsked = std::ranges::find(iAsked, name) != iAsked.end();
-    if (isAsked && std::ranges::find(unknown, name) == unknown.end()) unknown.push_back(name);
+    const std::string_view name = std::string_view(text_).substr(begin, end - begin);
+    if (expected.erase(name) != 0) unknown.emplace_back(name);
     begin = end + 1;
   }
   oUnknown = std::move(unknown);

@@ -38,13 +38,10 @@ HRESULT SendReply(VelSystemChannel& ioChannel, Reply& ioReply, std::string_view 
   return ioChannel.Send(std::as_bytes(std::span(&ioReply, 1)), iText, iDescriptor, sendMilliseconds, oCause);
 }
 
-/// The names, each ended by a NUL, as many as there is room for.
+/// The names, each ended by a NUL. They came with the request, and thus fit into the reply.
 std::string Join(const std::vector<std::string>& iNames) {
   std::string text;
-  for (const std::string& name : iNames) {
-    if (text.size() + name.size() + 1 > VelImageWorkerMessage::largestCause) break;
-    text.append(name).push_back('\0');
-  }
+  for (const std::string& name : iNames) text.append(name).push_back('\0');
   return text;
 }
 
