@@ -46,7 +46,8 @@ HRESULT VelSystemWrite::MakeFolder(const std::string& iPath, std::string& oCause
   const int error = errno;
   struct stat status {};
   const bool isFolder = error == EEXIST && ::stat(iPath.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
-  return isFolder ? S_FALSE : VelSystemError::Fail(error, oCause);
+  if (isFolder) return S_FALSE;
+  return VelSystemError::Fail(error == EEXIST ? ENOTDIR : error, oCause);
 }
 
 HRESULT VelSystemWrite::MakeUniqueFolder(const std::string& iPrefix, std::string& oPath, std::string& oCause) {

@@ -69,6 +69,7 @@ TEST_F(VelSystemWriteTest, MakeFolder_IsForItsOwnerAlone) {
   EXPECT_EQ(ModeOf(path), 0700U);
   EXPECT_EQ(VelSystemWrite::MakeFolder(path, cause_), S_FALSE);
   EXPECT_EQ(VelSystemWrite::MakeFolder(folder_.Write("file", "x"), cause_), E_FAIL);
+  EXPECT_EQ(cause_, "a part of the path is not a folder");
   EXPECT_EQ(VelSystemWrite::MakeFolder(folder_.Path("a/b"), cause_), E_FAIL);
 }
 
