@@ -23,15 +23,28 @@ constexpr int largestDpi = 4800;
 
 VelTraceHandle Channel() { return VelTraceHandle("VelRbaImageServices"); }
 
+/// Paths and names come with documents. Nothing in them may look like another line of the trace, or steer a terminal.
+std::string OnOneLine(std::string iText) {
+  std::ranges::replace_if(
+      iText,
+      [](char iByte) {
+        const auto code = static_cast<unsigned char>(iByte);
+        return code < 0x20 || code == 0x7F;
+      },
+      '?');
+  return iText;
+}
+
 void WarnOfFailure(const std::string& iPath, const std::string& iCause) {
-  Channel().Warning("No image of '%s': %s", iPath, iCause);
+  Channel().Warning("No image of '%s': %s", OnOneLine(iPath), iCause);
 }
 
 void WarnOfUnknownGroups(const std::string& iPath, const std::vector<std::string>& iGroups) {
   if (iGroups.empty()) return;
   std::string names;
   for (const std::string& group : iGroups) names += (names.empty() ? "'" : ", '") + group + "'";
-  Channel().Warning("The image of '%s' is empty, since the file has none of the groups %s", iPath, names);
+  Channel().Warning("The image of '%s' is empty, since the file has none of the groups %s", OnOneLine(iPath),
+                    OnOneLine(names));
 }
 
 /// @return S_OK; E_FAIL for a resolution out of range

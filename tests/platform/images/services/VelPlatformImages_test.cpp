@@ -151,6 +151,31 @@ TEST_F(VelPlatformImagesTest, UnknownGroups_DrawNothingAndAreListedOnce) {
                           "' is empty, since the file has none of the groups 'down', 'up'"});
 }
 
+TEST_F(VelPlatformImagesTest, UnknownGroups_AreAllListedHoweverManyTheyAre) {
+  const std::string path = folder_.Write("a.svg", squares);
+  VelListValVelUnicodeString groups;
+  std::string names;
+  for (int i = 10'000; i < 20'000; ++i) {
+    groups.Append(VelUnicodeString(std::to_string(i)));
+    names += (names.empty() ? "'" : ", '") + std::to_string(i) + "'";
+  }
+  EXPECT_TRUE(Load(path, groups));
+  EXPECT_TRUE(Take() == Texts{"VelRbaImageServices: The image of '" + path +
+                              "' is empty, since the file has none of the groups " + names});
+  const std::string longName(20'000, 'x');
+  EXPECT_TRUE(Load(path, Groups({longName.c_str()})));
+  EXPECT_EQ(Take().size(), 1U);
+}
+
+TEST_F(VelPlatformImagesTest, Warnings_StayOnOneLineWhateverIsInPathsAndNames) {
+  EXPECT_FALSE(Load("/nowhere\n[error] a\x1B[31m\x7F.svg"));
+  EXPECT_EQ(Take(), Texts{"VelRbaImageServices: No image of '/nowhere?[error] a?[31m?.svg': no such file"});
+  const std::string path = folder_.Write("b\n.svg", squares);
+  EXPECT_TRUE(Load(path, Groups({"\t\xC3\xB6\n"})));
+  EXPECT_EQ(Take(), Texts{"VelRbaImageServices: The image of '" + folder_.Path("b?.svg") +
+                          "' is empty, since the file has none of the groups '?\xC3\xB6?'"});
+}
+
 TEST_F(VelPlatformImagesTest, TheSameRequest_IsAnsweredWithTheSameImage) {
   const std::string path = folder_.Write("a.svg", squares);
   const VelBaseUnknown_var hFirst = Load(path, Groups({"left", "right"}));
