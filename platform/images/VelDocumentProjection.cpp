@@ -20,6 +20,7 @@ constexpr int exitPriority = 5;
 
 /// What was written of a document.
 struct Written {
+  std::string folder;  ///< The document's own.
   std::string path;
   std::size_t size = 0;
   std::size_t hash = 0;
@@ -105,14 +106,15 @@ HRESULT VelDocumentProjection::Project(VelIPLMDmtDocument& iDocument, VelUnicode
   }
   Projections& projections = Projections::Get();
   VEL_RETURN_IF_FAILED(EnsureFolder(projections));
-  const std::string folder = projections.folder + "/" + FileNameOf(identifier.View());
-  const std::string path = folder + "/" + NameOfFile(iDocument);
   Written& written = projections.files[std::string(identifier.View())];
+  // A number, since different identifiers may be the same once they are made names of folders.
+  if (written.folder.empty()) written.folder = projections.folder + "/" + std::to_string(projections.files.size());
+  const std::string path = written.folder + "/" + NameOfFile(iDocument);
   const std::size_t hash = std::hash<std::string>()(content);
   const bool isThere = written.path == path && written.size == content.size() && written.hash == hash;
   if (!isThere || !VelSystemFile::Exists(path)) {
-    VEL_RETURN_IF_FAILED(Write(folder, path, content));
-    written = {path, content.size(), hash};
+    VEL_RETURN_IF_FAILED(Write(written.folder, path, content));
+    written = {written.folder, path, content.size(), hash};
   }
   oPath = VelUnicodeString(std::string_view(path));
   return S_OK;

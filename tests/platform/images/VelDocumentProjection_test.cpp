@@ -5,6 +5,8 @@
 
 #include <chrono>
 #include <filesystem>
+#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -89,6 +91,16 @@ TEST_F(VelDocumentProjectionTest, TwoDocumentsOfOneName_HaveFilesOfTheirOwn) {
   EXPECT_NE(one, two);
   EXPECT_EQ(ContentOf(one), "one");
   EXPECT_EQ(ContentOf(two), "two");
+}
+
+TEST_F(VelDocumentProjectionTest, DocumentsOfSimilarIdentifiers_HaveFilesOfTheirOwn) {
+  const std::string half(150, 'x');
+  const std::string identifiers[] = {"a/b", "a\\b", "a_b", half + "1" + half, half + "2" + half};
+  std::vector<std::string> paths;
+  for (const std::string& identifier : identifiers) {
+    paths.push_back(PathOf(Make(identifier.c_str(), "wood.png", "png", identifier.c_str())));
+  }
+  for (std::size_t i = 0; i < paths.size(); ++i) EXPECT_EQ(ContentOf(paths[i]), identifiers[i]);
 }
 
 TEST_F(VelDocumentProjectionTest, HostileNames_StayInTheFolder) {
