@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
-/// @file VelPlatformImages_Hostile_test.cpp Files that are made to do harm, given to the image services.
+/// @file VelPlatformImages_Hostile_test.cpp Files and helper programs that are made to do harm, and the image services.
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -114,6 +114,7 @@ class VelPlatformImagesHostileTest : public MissingProviderTest {
     ExpectLittleMemory(RUSAGE_CHILDREN);
     EXPECT_EQ(VelDictionary::Unload(dictionary), S_OK);
     ::unsetenv("XDG_CACHE_HOME");
+    ::unsetenv("VEL_IMAGE_WORKER");
     MissingProviderTest::TearDown();
   }
 
@@ -328,6 +329,32 @@ TEST_F(VelPlatformImagesHostileTest, AFileThatMayNotBeRead_IsRefused) {
   int status = -1;
   ASSERT_EQ(::waitpid(process, &status, 0), process);
   EXPECT_EQ(status, 0);
+}
+
+TEST_F(VelPlatformImagesHostileTest, AHelperProgramThatFails_CostsOneWarningAndTheNextRequestIsAnswered) {
+  struct Failure {
+    std::string program;
+    const char* file;  ///< In which the program of the tests reads what it is to do.
+    std::string cause;
+  };
+  const std::string notExecutable = folder_.Write("program", "text");
+  const Failure failures[] = {
+      {folder_.Path("gone"), "draw", "is missing: looked in '" + folder_.Path("gone") + "'"},
+      {notExecutable, "draw", "cannot be started from '" + notExecutable + "': "},
+      {VEL_TEST_IMAGE_WORKER, "die", "was ended by signal 9"},
+      {VEL_TEST_IMAGE_WORKER, "exit", "ended with code 7"},
+      {VEL_TEST_IMAGE_WORKER, "garbage", "sent 9 bytes, where a reply has at least 40"},
+      {VEL_TEST_IMAGE_WORKER, "huge-size", "sent a picture of 100000 x 100000 pixels, which is no size of an image"},
+      {VEL_TEST_IMAGE_WORKER, "unsealed", "sent a picture whose shared memory is not sealed against writing"},
+  };
+  for (const Failure& failure : failures) {
+    SCOPED_TRACE(failure.cause);
+    VelPlatformTerminate();
+    ::setenv("VEL_IMAGE_WORKER", failure.program.c_str(), 1);
+    ExpectNoImage(folder_.Write("asked.svg", failure.file), "the helper program velrsh-image-worker " + failure.cause);
+    ::unsetenv("VEL_IMAGE_WORKER");
+    ExpectAlive();
+  }
 }
 
 }  // namespace
