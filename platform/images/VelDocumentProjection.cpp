@@ -55,7 +55,8 @@ int RemoveAtExit(int) {
 HRESULT EnsureFolder(Projections& ioProjections) {
   if (!ioProjections.folder.empty() && VelSystemFile::Exists(ioProjections.folder)) return S_OK;
   VelString temporary;
-  if (!VelEnvironment::Get("TMPDIR", temporary) || temporary.IsEmpty()) temporary = "/tmp";
+  // A relative one would mean another folder once the process has changed its own.
+  if (!VelEnvironment::Get("TMPDIR", temporary) || !temporary.View().starts_with('/')) temporary = "/tmp";
   const std::string prefix = std::string(temporary.View()) + "/velrsh-projection-";
   std::string cause;
   ioProjections.files.clear();

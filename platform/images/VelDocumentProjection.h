@@ -15,9 +15,9 @@
 /// the file is gone. The file bears the document's name, with the format as its extension where the name has none; what
 /// cannot stand in a file's name becomes "_". Documents of one name lie in folders of their own.
 ///
-/// The folder is private to the user, lies in TMPDIR (else /tmp) and is removed by the platform's end
-/// (VelPlatformTerminate). What fails is an error on the trace channel "VelDocumentProjection". Thread: the application
-/// thread.
+/// The folder is private to the user, lies in TMPDIR (else, or where that is no full path, /tmp) and is removed by the
+/// platform's end (VelPlatformTerminate). What fails is an error on the trace channel "VelDocumentProjection". Thread:
+/// the application thread.
 class VEL_PLATFORM_API VelDocumentProjection {
  public:
   /// @param[out] oPath the absolute path of the file; untouched on failure

@@ -4,8 +4,10 @@
 #include "platform/images/VelDocumentProjection.h"
 
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -15,6 +17,7 @@
 #include "platform/trace/VelDiagnostics.h"
 #include "platform/trace/VelTraceService.h"
 #include "tests/RenderingShader/fixtures/FakeDocument.h"
+#include "tests/platform/base/system/VelTemporaryFolder.h"
 
 namespace {
 
@@ -128,6 +131,23 @@ TEST_F(VelDocumentProjectionTest, DocumentThatCannotBeRead_IsAnErrorAndLeavesThe
   EXPECT_EQ(VelDocumentProjection::Project(*hDocument, path), E_FAIL);
   EXPECT_EQ(path, "untouched");
   EXPECT_EQ(diagnostics.Entries().size(), 1U);
+}
+
+TEST_F(VelDocumentProjectionTest, Files_LieInTheFolderForTemporaryOnes_WhereThatIsAFullPath) {
+  const char* const before = std::getenv("TMPDIR");
+  const std::string restored = before != nullptr ? before : "";
+  const VelTemporaryFolder folder;
+  const std::pair<std::string, std::string> cases[] = {{folder.Path(), folder.Path()}, {".", "/tmp"}, {"", "/tmp"}};
+  for (const auto& [variable, expected] : cases) {
+    VelDocumentProjection::RemoveAll();
+    ::setenv("TMPDIR", variable.c_str(), 1);
+    EXPECT_TRUE(PathOf(Make("1", "wood.png", "png", "x")).starts_with(expected + "/velrsh-projection-")) << variable;
+  }
+  if (before != nullptr) {
+    ::setenv("TMPDIR", restored.c_str(), 1);
+  } else {
+    ::unsetenv("TMPDIR");
+  }
 }
 
 TEST_F(VelDocumentProjectionTest, EndOfThePlatform_RemovesTheFiles) {
