@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 /// @file VelRmaRefresh_Road_test.cpp The whole road of an edit, from an editor's notification to the pixels, on real
 /// files.
+#include <cmath>
 #include <cstdlib>
 
 #include "RenderingShader/VelRshModel.m/include/VelRshTranslatorParameter.h"
@@ -61,16 +62,20 @@ class RoadListener final : public VelModelEventsListener {
 
   void Receive(VelNotification& ioNotification) override {
     if (const auto* real = VelNotificationCast<VelRbaFloatShaderModifyNotification>(&ioNotification)) {
-      road_.push_back(name_ + ": " + std::to_string(real->GetPrevious()).substr(0, 3) + " -> " +
-                      std::to_string(real->GetNext()).substr(0, 3));
+      Note(real->GetPrevious(), real->GetNext());
     }
     if (const auto* integer = VelNotificationCast<VelRbaIntegralShaderModifyNotification>(&ioNotification)) {
-      road_.push_back(name_ + ": " + std::to_string(integer->GetPrevious()) + " -> " +
-                      std::to_string(integer->GetNext()));
+      Note(integer->GetPrevious(), integer->GetNext());
     }
   }
 
  private:
+  /// Whole numbers, which look the same in every locale.
+  void Note(double iPrevious, double iNext) {
+    road_.push_back(name_ + ": " + std::to_string(std::lround(iPrevious)) + " -> " +
+                    std::to_string(std::lround(iNext)));
+  }
+
   Texts& road_;
   std::string name_;
 };
@@ -182,7 +187,7 @@ TEST_F(VelRmaRefreshRoadTest, AnEditedMappingValue_ReachesTheSubShaderAndThenThe
   EXPECT_TRUE(translate_(
       VelRbaFloatShaderModifyNotification("scale_u", hScale_.Get(), VelIRshParameter::InterfaceId(), 1.0, 2.0)));
   // The sub-shader hears the change before the host does, and takes it over; the host hears of the inner one first.
-  EXPECT_EQ(road_, (Texts{"sub-shader: 1.0 -> 2.0", "root: 1.0 -> 2.0",
+  EXPECT_EQ(road_, (Texts{"sub-shader: 1 -> 2", "root: 1 -> 2",
                           "updater: Updating map connected shader mapping data scale_u"}));
   float scale = 0.0F;
   EXPECT_EQ(hInnerScale_->GetValue(&scale), S_OK);
