@@ -35,8 +35,7 @@ class VEL_RSH_MODEL_API VelRshShaderManager : public VelCommand {
   /// @param[in] iUsage the context, a bit each; a type of usage 0 suits any. 1 asks the factories for their types
   /// again.
   /// @param[in] iOutputType the start-up of the value that is wanted; "VelRmaVoid" takes "VelRmaVector" as well; empty
-  /// takes
-  ///            all
+  ///            takes all
   /// @param[in,out] oTypes the names of the types are appended
   /// @param[in,out] oNames what people call them, appended pairwise
   /// @return the code of the last call of a factory, deliberately also where types were listed before it failed; E_FAIL
@@ -49,8 +48,7 @@ class VEL_RSH_MODEL_API VelRshShaderManager : public VelCommand {
   /// @param[out] oShader with one reference for the caller; null on failure
   /// @param[in] iOption handed to the factory, whose result is not looked at
   /// @return S_OK; E_FAIL when an argument is missing, the type is unknown or the shader cannot be made; E_UNEXPECTED
-  /// when
-  ///         the type has no factory any more
+  ///         when the type has no factory any more
   HRESULT CreateShader(const VelIContainer_var& iContainer, const VelString& iType, VelIRshShader** oShader,
                        unsigned char iOption);
 
@@ -60,16 +58,15 @@ class VEL_RSH_MODEL_API VelRshShaderManager : public VelCommand {
   /// @param[out] oCopy with one reference for the caller; null on failure, unless it was the values that could not be
   ///             copied: then the copy with what it has by then
   /// @return S_OK; E_FAIL when an argument is missing; E_NOINTERFACE when the shader cannot be made; otherwise why its
-  /// type,
-  ///         a value or a connection could not be copied. A parameter without a value is such a failure.
+  ///         type, a value or a connection could not be copied. A parameter without a value is such a failure.
   virtual HRESULT CreateShaderCopy(const VelIContainer_var& iContainer, VelIRshShader* iShader, VelIRshShader** oCopy);
 
   /// Rebuilds a shader whose version is not the one of its type today. Parameters that have name and start-up in common
   /// with one of the old keep its value (texts and matrices take the default) and its connection; others go.
   /// @return S_OK, also when the versions are equal; E_FAIL when the shader is null, its type unknown, or no copy of it
-  /// can
-  ///         be made; otherwise why version, new parameters or values could not be had. When the factory fails to add
-  ///         the new parameters, a copy of the shader stays in the container, as the only place of the old values.
+  ///         can be made; otherwise why version, new parameters or values could not be had: E_UNEXPECTED when name or
+  ///         start-up of an old parameter cannot be read. When the factory fails to add the new parameters, a copy of
+  ///         the shader stays in the container, as the only place of the old values.
   HRESULT UpgradeShader(VelIRshShader* iShader);
 
   static const VelMetaClass& MetaObject() noexcept;

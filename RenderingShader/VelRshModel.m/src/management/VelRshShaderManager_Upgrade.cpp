@@ -34,27 +34,30 @@ bool IsNamedAndTyped(const VelIRshParameter_var& iParameter, const VelString& iN
 /// Pairs each old parameter, in order, with the first new one of its name and start-up that is still free. What has no
 /// partner is left out.
 /// @param[in] iNew is used up
-std::vector<Successor> FindSuccessors(const Parameters& iOld, Parameters iNew) {
-  std::vector<Successor> successors;
+/// @param[out] oSuccessors on failure those before the one at fault
+/// @return S_OK; E_UNEXPECTED when name or start-up of an old one cannot be read
+HRESULT FindSuccessors(const Parameters& iOld, Parameters iNew, std::vector<Successor>& oSuccessors) {
   for (const VelIRshParameter_var& hOld : iOld) {
     VelString name;
     VelString startUp;
-    if (FAILED(hOld->GetName(name)) || FAILED(hOld->GetType(startUp))) continue;
+    if (FAILED(hOld->GetName(name)) || FAILED(hOld->GetType(startUp))) return E_UNEXPECTED;
     for (VelIRshParameter_var& hNew : iNew) {
       if (!IsNamedAndTyped(hNew, name, startUp)) continue;
-      successors.push_back({hOld, std::exchange(hNew, nullptr), startUp});
+      oSuccessors.push_back({hOld, std::exchange(hNew, nullptr), startUp});
       break;
     }
   }
-  return successors;
+  return S_OK;
 }
 
 /// Values first: a connection makes the connected shader take over values, which have to be the right ones by then.
 HRESULT TakeOver(const Parameters& iOld, const Parameters& iNew) {
-  const std::vector<Successor> successors = FindSuccessors(iOld, iNew);
+  std::vector<Successor> successors;
+  const HRESULT found = FindSuccessors(iOld, iNew, successors);
   for (const Successor& successor : successors) {
     VEL_RETURN_IF_FAILED(VelRshCarryValue(successor.startUp, *successor.hOld, *successor.hNew));
   }
+  VEL_RETURN_IF_FAILED(found);
   for (const Successor& successor : successors) {
     VelIRshShader_var hConnected;
     if (FAILED(successor.hOld->GetConnection(hConnected.Receive())) || !hConnected) continue;
