@@ -232,7 +232,7 @@ class VelRshShaderManagerRandomUpgradesTest : public ManagementTest {
 };
 
 TEST_F(VelRshShaderManagerRandomUpgradesTest, RandomVersions_KeepWhatTheModelKeeps) {
-  const unsigned count = FromEnvironment("VEL_RANDOM_OPERATIONS", 10000);
+  const unsigned count = FromEnvironment("VEL_RANDOM_OPERATIONS", 2500);
   unsigned stopped = 0;
   for (unsigned done = 0; done < count; ++done) {
     SCOPED_TRACE("seed " + std::to_string(seed_) + ", upgrade " + std::to_string(done));
