@@ -5,6 +5,7 @@
 
 #include <utility>
 
+#include "platform/images/VelRbaImageServices.h"
 #include "platform/materials/VelRmaImageEntry.h"
 
 namespace {
@@ -17,6 +18,13 @@ struct Ledger {
 };
 
 constinit Ledger ledger;
+
+/// A vector image may have been drawn at any resolution and by any of its groups, which its path does not tell.
+bool CanBeLoadedAgain(const VelRmaImageEntry& iEntry) {
+  if (iEntry.path.IsEmpty()) return false;
+  const VelString extension = VelRbaImageServices::SplitPath(iEntry.path).extension.ToVelString().ToLower();
+  return extension != "svg" && extension != "svgz";
+}
 
 bool IsLinked(const VelRmaImageEntry& iEntry) { return iEntry.bytes != 0; }
 
@@ -60,7 +68,7 @@ void VelRmaImageBudget::DropDownToBudget() noexcept {
   VelRmaImageEntry* entry = ledger.oldest;
   while (entry != nullptr && entry != ledger.youngest && ledger.held > ledger.budget) {
     VelRmaImageEntry* const next = entry->younger;
-    if (!entry->path.IsEmpty()) {
+    if (CanBeLoadedAgain(*entry)) {
       Unlink(*entry);
       entry->wasDropped = true;
       entry->image = nullptr;

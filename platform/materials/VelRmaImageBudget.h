@@ -13,7 +13,8 @@ struct VelRmaImageEntry;
 
 /// Keeps a thousand open materials from holding a thousand decoded textures: where the images that the caches hold are
 /// more than the budget, those that were used longest ago are dropped to their path, from which they are loaded again
-/// when they are asked for. An image without a path is never dropped, nor is the one that was used last.
+/// when they are asked for. An image without a path is never dropped, nor is one whose path
+/// is that of a vector image, nor the one that was used last.
 /// Thread: the application thread.
 class VEL_PLATFORM_API VelRmaImageBudget {
  public:

@@ -260,6 +260,16 @@ TEST_F(VelRmaRenderingMaterialTest, ImageWithoutAPath_IsNeverDropped) {
   EXPECT_NE(ImageOf(hCache_, 1), nullptr);
 }
 
+TEST_F(VelRmaRenderingMaterialTest, ImageOfAVectorFile_IsNeverDropped) {
+  for (const char* path : {"/a/one.svg", "/a/one.SVGZ"}) {
+    VelRmaImageBudget::Set(VelRmaImageBudget::defaultBytes);
+    EXPECT_EQ(SetEntry(hCache_, 1, path, MakeImage()), S_OK);
+    EXPECT_EQ(SetEntry(hCache_, 2, "two.png", MakeImage()), S_OK);
+    VelRmaImageBudget::Set(0);
+    EXPECT_EQ(VelRmaImageBudget::HeldBytes(), 2U * 1024U) << "its path does not tell how it was drawn";
+  }
+}
+
 TEST_F(VelRmaRenderingMaterialTest, ClosedMaterial_LetsItsImagesGo) {
   EXPECT_EQ(SetEntry(hCache_, 1, "one.png", MakeImage()), S_OK);
   EXPECT_EQ(LifeCycleObject_var(hMaterial_)->remove(), S_OK);
