@@ -182,16 +182,22 @@ class VelRshFeatureModelerCopierRandomGraphsTest : public ManagementTest {
     ASSERT_NO_FATAL_FAILURE(CheckParameters(iCopy, iExpected));
     const std::vector<VelIRshParameter_var> parameters = ParametersOf(iCopy);
     for (std::size_t i = 0; i < parameters.size(); ++i) {
-      const int connection = iExpected[i].connection;
       const VelIRshShader_var hConnected = ConnectionOf(parameters[i]);
-      ASSERT_EQ(static_cast<bool>(hConnected), connection != noConnection);
-      if (connection == output) {
-        ASSERT_TRUE(IsSameObject(hConnected.Get(), ShaderOf(output).Get()));
-      } else if (connection != noConnection) {
-        const Parameters below = areTagged_ ? ConnectedAt(iNumber, i, iExpected) : ModelOf(connection);
-        ASSERT_NO_FATAL_FAILURE(CheckCopy(hConnected, connection, below));
-      }
+      ASSERT_NO_FATAL_FAILURE(CheckConnection(hConnected, iNumber, i, iExpected)) << iExpected[i].name;
     }
+  }
+
+  /// Compares what the parameter at a place of a shader's copy is connected to.
+  void CheckConnection(const VelIRshShader_var& iConnected, int iNumber, std::size_t iPlace,
+                       const Parameters& iExpected) {
+    const int connection = iExpected[iPlace].connection;
+    ASSERT_EQ(static_cast<bool>(iConnected), connection != noConnection);
+    if (connection == noConnection) return;
+    if (connection == output) {
+      ASSERT_TRUE(IsSameObject(iConnected.Get(), ShaderOf(output).Get()));
+      return;
+    }
+    CheckCopy(iConnected, connection, areTagged_ ? ConnectedAt(iNumber, iPlace, iExpected) : ModelOf(connection));
   }
 
   /// What a shader has once it is connected. It takes over what the copy above has by then, before that one is
@@ -212,27 +218,31 @@ class VelRshFeatureModelerCopierRandomGraphsTest : public ManagementTest {
     return iOwn;
   }
 
+  void CopyRandomGraph() {
+    hContainer_ = MakeContainer();
+    MakeGraph();
+    const int features = hContainer_->CountFeatures();
+    const VelIContainer_var hTarget = MakeContainer();
+    const VelIRshShader_var hCopy = VelRshFeatureModelerCopier(*hTarget).Copy(ShaderOf(0));
+    ASSERT_TRUE(hCopy);
+    checked_ = 0;
+    ASSERT_NO_FATAL_FAILURE(CheckCopy(hCopy, 0, ModelOf(0)));
+    mostChecked_ = std::max(mostChecked_, checked_);
+    for (int shader = 0; shader < shaderCount; ++shader) {
+      ASSERT_NO_FATAL_FAILURE(CheckParameters(ShaderOf(shader), ModelOf(shader))) << "the source changed";
+    }
+    ASSERT_EQ(hContainer_->CountFeatures(), features);
+    shaders_.clear();
+    model_.clear();
+    CloseContainer();
+  }
+
   void CopyRandomGraphs() {
     const VelTestGraphOutputBindings outputs;
     const unsigned count = FromEnvironment("VEL_RANDOM_OPERATIONS", 200);
     for (unsigned done = 0; done < count; ++done) {
       SCOPED_TRACE("seed " + std::to_string(seed_) + ", graph " + std::to_string(done));
-      hContainer_ = MakeContainer();
-      MakeGraph();
-      const int features = hContainer_->CountFeatures();
-      const VelIContainer_var hTarget = MakeContainer();
-      const VelIRshShader_var hCopy = VelRshFeatureModelerCopier(*hTarget).Copy(ShaderOf(0));
-      ASSERT_TRUE(hCopy);
-      checked_ = 0;
-      ASSERT_NO_FATAL_FAILURE(CheckCopy(hCopy, 0, ModelOf(0)));
-      mostChecked_ = std::max(mostChecked_, checked_);
-      for (int shader = 0; shader < shaderCount; ++shader) {
-        ASSERT_NO_FATAL_FAILURE(CheckParameters(ShaderOf(shader), ModelOf(shader))) << "the source changed";
-      }
-      ASSERT_EQ(hContainer_->CountFeatures(), features);
-      shaders_.clear();
-      model_.clear();
-      CloseContainer();
+      ASSERT_NO_FATAL_FAILURE(CopyRandomGraph());
     }
     EXPECT_GT(mostChecked_, 2 * shaderCount) << "the run has to meet shaders that are connected more than once";
   }

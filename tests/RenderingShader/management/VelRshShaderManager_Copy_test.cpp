@@ -269,6 +269,15 @@ TEST_F(VelRshShaderManagerCopyTest, AParameterThatCannotBeMade_IsSkippedAndTheCo
   EXPECT_FALSE(ConnectionOf(Find(hCopy_, "connected")));
 }
 
+TEST_F(VelRshShaderManagerCopyTest, CountsThatDiffer_StopBeforeTheFirstConnection) {
+  const VelIRshShader_var hNode = AddNode(hSource_);
+  Connect("connected", hNode);
+  static_cast<void>(AddForeign());
+  EXPECT_EQ(Copy(), E_UNEXPECTED);
+  EXPECT_EQ(ParameterNames(hCopy_), Texts{"connected"});
+  EXPECT_FALSE(ConnectionOf(Find(hCopy_, "connected")));
+}
+
 TEST_F(VelRshShaderManagerCopyTest, NamesOrTypesThatDiffer_StopTheConnections) {
   const struct {
     const char* what;

@@ -76,10 +76,11 @@ TEST_F(VelRshShaderManagerEndTest, ALaterManager_BeginsAnewAndEndsToo) {
 
 TEST_F(VelRshShaderManagerEndTest, TheManager_EndsAtPriorityThree) {
   order.clear();
-  VelCallOnExit([](int) { return order.push_back(2), 0; }, 2);
-  VelCallOnExit([](int) { return order.push_back(4), 0; }, 4);
   First().onEnd = [] { order.push_back(3); };
+  // Of equal priorities the youngest comes first, so each neighbour is registered where it would trade places.
+  VelCallOnExit([](int) { return order.push_back(2), 0; }, 2);
   static_cast<void>(Manager());
+  VelCallOnExit([](int) { return order.push_back(4), 0; }, 4);
   VelPlatformTerminate();
   EXPECT_EQ(order, (std::vector<int>{2, 3, 4}));
 }

@@ -24,8 +24,9 @@ class VelRshShaderManagerEnvironmentTest : public ManagementTest {
   }
 
   /// @param[in] iValue null leaves the variable unset
-  void RunWith(const char* iValue, const std::function<void()>& iBody) {
-    EXPECT_EXIT(  // NOLINT(readability-function-size)
+  // The macro is most of what the function is.
+  void RunWith(const char* iValue, const std::function<void()>& iBody) {  // NOLINT(readability-function-size)
+    EXPECT_EXIT(
         {
           ::unsetenv(variable);
           if (iValue != nullptr) ::setenv(variable, iValue, 1);
