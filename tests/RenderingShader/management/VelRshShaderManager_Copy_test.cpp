@@ -1,66 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
-/// @file VelRshShaderManager_Copy_test.cpp Copies a shader with its parameters, their values and connections, and its
-/// nodes.
+/// @file VelRshShaderManager_Copy_test.cpp Copies a shader with its parameters and their values.
 #include <algorithm>
 #include <functional>
 
-#include "platform/configuration/VelRbaConfiguration.h"
 #include "tests/RenderingShader/fixtures/FakeDocument.h"
 #include "tests/RenderingShader/fixtures/FakeRepLifeCycle.h"
-#include "tests/RenderingShader/management/fixtures/ManagementTest.h"
-#include "tests/RenderingShader/management/fixtures/VelTestOddities.h"
+#include "tests/RenderingShader/management/fixtures/ShaderCopyTest.h"
 
 namespace {
 
-class VelRshShaderManagerCopyTest : public ManagementTest {
- protected:
-  void SetUp() override {
-    ManagementTest::SetUp();
-    hTarget_ = MakeContainer();
-    hSource_ = MakeShader();
-  }
-  void TearDown() override {
-    hSource_ = nullptr;
-    hCopy_ = nullptr;
-    CloseContainer();
-    hTarget_ = nullptr;
-    odd_.reset();
-    ManagementTest::TearDown();
-  }
-
-  HRESULT Copy() { return Manager().CreateShaderCopy(hTarget_, hSource_.Get(), hCopy_.Receive()); }
-
-  /// Has the classes of VelTestOddities answer from now on.
-  VelTestParameterScript& Odd(const char* iParameter) {
-    if (!odd_) odd_.emplace(VEL_TEST_LIBRARY_FOLDER);
-    return odd_->parameters[iParameter];
-  }
-
-  /// @return a parameter of VelTestManagementCatalog, which the target does not know, at the end of the source
-  VelISpecObject_var AddForeign() {
-    EXPECT_EQ(VelICatalogManager_var(hContainer_)->LoadCatalog(VEL_TEST_MANAGEMENT_CATALOG), S_OK);
-    VelBaseUnknown_var hStartUp;
-    EXPECT_EQ(FindStartUp("VelISpecObject", "", "VelTestForeignValue", *hContainer_, hStartUp.Receive()), S_OK);
-    VelBaseUnknown_var hFeature;
-    EXPECT_EQ(VelISpecObject_var(hStartUp)->Instanciate("", hContainer_.Get(), VelIRshParameter::InterfaceId(),
-                                                        hFeature.Receive()),
-              S_OK);
-    EXPECT_EQ(VelIRshParameter_var(hFeature)->SetName("foreign"), S_OK);
-    EXPECT_EQ(hSource_->AppendParameter(VelIRshParameter_var(hFeature).Get()), S_OK);
-    return VelISpecObject_var(hFeature);
-  }
-
-  /// Connects a new parameter of the source to a shader.
-  void Connect(const char* iName, const VelIRshShader_var& iShader) {
-    EXPECT_EQ(Add(hSource_, iName, "VelRmaVoid")->SetConnection(iShader.Get()), S_OK);
-  }
-
-  VelIContainer_var hTarget_;
-  VelIRshShader_var hSource_;
-  VelIRshShader_var hCopy_;
-  std::optional<VelTestOddities> odd_;
-};
+using VelRshShaderManagerCopyTest = ShaderCopyTest;
 
 TEST_F(VelRshShaderManagerCopyTest, MissingArguments_AreFailuresWithoutACopy) {
   VelIRshShader* copy = hSource_.Get();
@@ -314,149 +264,6 @@ TEST_F(VelRshShaderManagerCopyTest, NamesOrTypesThatDiffer_StopTheConnections) {
     EXPECT_TRUE(ConnectionOf(ParametersOf(hCopy_)[0])) << row.what;
     EXPECT_FALSE(ConnectionOf(ParametersOf(hCopy_)[2])) << row.what;
   }
-}
-
-TEST_F(VelRshShaderManagerCopyTest, Nodes_AreCopiedInOrderAndConnectedLikeTheirOriginals) {
-  const VelIRshShader_var hFirst = AddNode(hSource_, "first");
-  const VelIRshShader_var hSecond = AddNode(hSource_, "mia_material");
-  const VelIRshShader_var hThird = AddNode(hSource_, "third");
-  const VelIRshShader_var hBelow = AddNode(hSecond, "below");
-  EXPECT_EQ(Add(hSecond, "down", "VelRmaVoid")->SetConnection(hBelow.Get()), S_OK);
-  AddScalar(hBelow, "depth", 2.0F);
-  Connect("a", hSecond);
-  Connect("b", hFirst);
-  Connect("c", hSecond);
-
-  EXPECT_EQ(Copy(), S_OK);
-  const std::vector<VelIRshShader_var> nodes = NodesOf(hCopy_);
-  ASSERT_EQ(nodes.size(), 3U);
-  EXPECT_EQ(TypeOfShader(nodes[0].Get()), "first");
-  EXPECT_EQ(TypeOfShader(nodes[1].Get()), "mia_phen_material");
-  EXPECT_EQ(TypeOfShader(nodes[2].Get()), "third");
-  EXPECT_TRUE(IsSameObject(ConnectionOf(Find(hCopy_, "a")).Get(), nodes[1].Get()));
-  EXPECT_TRUE(IsSameObject(ConnectionOf(Find(hCopy_, "b")).Get(), nodes[0].Get()));
-  EXPECT_TRUE(IsSameObject(ConnectionOf(Find(hCopy_, "c")).Get(), nodes[1].Get()));
-  ASSERT_EQ(NodesOf(nodes[1]).size(), 1U);
-  const VelIRshShader_var hBelowCopy = NodesOf(nodes[1])[0];
-  EXPECT_TRUE(IsSameObject(ConnectionOf(Find(nodes[1], "down")).Get(), hBelowCopy.Get()));
-  EXPECT_EQ(ScalarOf(Find(hBelowCopy, "depth")), 2.0F);
-  EXPECT_EQ(hTarget_->CountFeatures(), 10) << "five shaders and five parameters";
-}
-
-TEST_F(VelRshShaderManagerCopyTest, AConnectionToAShaderElsewhere_IsNotRestored) {
-  const VelIRshShader_var hElsewhere = MakeShader("elsewhere");
-  Connect("a", hElsewhere);
-  EXPECT_EQ(Copy(), S_OK);
-  EXPECT_FALSE(ConnectionOf(Find(hCopy_, "a"))) << "without nodes";
-  const VelIRshShader_var hNode = AddNode(hSource_);
-  Connect("b", hNode);
-  EXPECT_EQ(Copy(), S_OK);
-  EXPECT_FALSE(ConnectionOf(Find(hCopy_, "a"))) << "beside a node";
-  EXPECT_TRUE(ConnectionOf(Find(hCopy_, "b")));
-}
-
-TEST_F(VelRshShaderManagerCopyTest, ANodeThatCannotBeCopied_CostsAllConnectionsButNotTheOtherNodes) {
-  const VelIRshShader_var hFirst = AddNode(hSource_, "first");
-  const VelIRshShader_var hBad = AddNode(hSource_, "bad");
-  static_cast<void>(AddNode(hSource_, "third"));
-  static_cast<void>(Add(hBad, "never set", "VelRmaScalar"));
-  Connect("a", hFirst);
-  AddScalar(hSource_, "value", 3.0F);
-  EXPECT_EQ(Copy(), S_OK);
-  const std::vector<VelIRshShader_var> nodes = NodesOf(hCopy_);
-  ASSERT_EQ(nodes.size(), 2U);
-  EXPECT_EQ(TypeOfShader(nodes[0].Get()), "first");
-  EXPECT_EQ(TypeOfShader(nodes[1].Get()), "third");
-  EXPECT_FALSE(ConnectionOf(Find(hCopy_, "a")));
-  EXPECT_EQ(ScalarOf(Find(hCopy_, "value")), 3.0F);
-}
-
-TEST_F(VelRshShaderManagerCopyTest, ANodeThatIsNoShader_CostsAllConnectionsToo) {
-  const VelIRshShader_var hNode = MakeShader("node");
-  const VelIRshParameter_var hConnected = Add(hSource_, "a", "VelRmaVoid");
-  EXPECT_EQ(hConnected->SetConnection(hNode.Get()), S_OK);
-  const struct {
-    const char* name;
-    std::vector<VelBaseUnknown*> nodes;
-    bool isConnected;
-  } cases[] = {{"the node", {hNode.Get()}, true},
-               {"a parameter", {hNode.Get(), hConnected.Get()}, false},
-               {"nothing", {nullptr, hNode.Get()}, false}};
-  static_cast<void>(Odd(""));
-  odd_->shader.parameters = {hConnected.Get()};
-  const VelIRshShader_var hOdd = VelTestOddities::CreateObject();
-  for (const auto& row : cases) {
-    odd_->shader.nodes = row.nodes;
-    EXPECT_EQ(Manager().CreateShaderCopy(hTarget_, hOdd.Get(), hCopy_.Receive()), S_OK) << row.name;
-    EXPECT_EQ(TypeOfShader(hCopy_.Get()), "odd") << row.name;
-    EXPECT_EQ(NodesOf(hCopy_).size(), 1U) << row.name;
-    EXPECT_EQ(static_cast<bool>(ConnectionOf(Find(hCopy_, "a"))), row.isConnected) << row.name;
-  }
-}
-
-TEST_F(VelRshShaderManagerCopyTest, ShadersNested256Deep_AreCopiedAndDeeperOnesAreCutWithACheck) {
-  VelIRshShader_var hDeepest = hSource_;
-  for (int depth = 2; depth <= 256; ++depth) hDeepest = AddNode(hDeepest);
-  EXPECT_EQ(Copy(), S_OK);
-  EXPECT_EQ(hTarget_->CountFeatures(), 256);
-  EXPECT_EQ(checks_.Messages(), Texts{});
-  static_cast<void>(AddNode(hDeepest));
-  EXPECT_EQ(Copy(), S_OK);
-  EXPECT_EQ(hTarget_->CountFeatures(), 512);
-  ASSERT_EQ(checks_.Messages(), Texts{"Shaders are nested too deep to be copied"});
-  EXPECT_EQ(checks_.Failures().front().expression, "depth <= 256");
-  EXPECT_EQ(checks_.Failures().front().source, "RenderingShader/VelRshModel.m/src/VelRshShaderManager");
-  checks_.Clear();
-}
-
-TEST_F(VelRshShaderManagerCopyTest, TheSource_StaysAsItIs) {
-  const VelIRshShader_var hNode = AddNode(hSource_, "node");
-  AddScalar(hSource_, "scalar", 1.0F);
-  AddScalar(hNode, "scalar", 2.0F);
-  Connect("a", hNode);
-  const int features = hContainer_->CountFeatures();
-  EXPECT_EQ(Copy(), S_OK);
-  EXPECT_EQ(hContainer_->CountFeatures(), features);
-  EXPECT_EQ(ParameterNames(hSource_), (Texts{"scalar", "a"}));
-  EXPECT_TRUE(IsSameObject(ConnectionOf(Find(hSource_, "a")).Get(), hNode.Get()));
-  EXPECT_EQ(NodesOf(hSource_).size(), 1U);
-  EXPECT_EQ(ScalarOf(Find(hNode, "scalar")), 2.0F);
-}
-
-TEST_F(VelRshShaderManagerCopyTest, ANodesCopy_TakesMappingValuesOverWhenItIsConnected) {
-  EXPECT_TRUE(SUCCEEDED(VelRbaConfiguration::SetValue("Default", "scale.Tag", "scale_u")));
-  const float color[4]{};
-  const float own = 5.0F;
-  const VelIRshShader_var hNode = AddNode(hSource_);
-  const VelIRshParameter_var hConnected = Add(hSource_, "a", "VelRmaColor");
-  EXPECT_EQ(hConnected->SetValue(color), S_OK);
-  EXPECT_EQ(hConnected->SetConnection(hNode.Get()), S_OK);
-  AddScalar(hNode, "scale", 5.0F);
-  AddScalar(hSource_, "scale", 1.0F);
-  EXPECT_EQ(Find(hNode, "scale")->SetValue(&own), S_OK) << "the node had followed the source";
-  EXPECT_EQ(Copy(), S_OK);
-  EXPECT_EQ(ScalarOf(Find(hNode, "scale")), 5.0F);
-  EXPECT_EQ(ScalarOf(Find(NodesOf(hCopy_)[0], "scale")), 1.0F) << "though it comes after the connection";
-}
-
-/// Counts the copies that go through its virtual entry.
-class CountingManager final : public VelRshShaderManager {
- public:
-  HRESULT CreateShaderCopy(const VelIContainer_var& iContainer, VelIRshShader* iShader,
-                           VelIRshShader** oCopy) override {
-    ++count;
-    return VelRshShaderManager::CreateShaderCopy(iContainer, iShader, oCopy);
-  }
-  int count = 0;
-};
-
-TEST_F(VelRshShaderManagerCopyTest, Nodes_GoThroughTheVirtualEntry) {
-  static_cast<void>(AddNode(AddNode(hSource_)));
-  auto* const manager = new CountingManager;
-  EXPECT_EQ(manager->CreateShaderCopy(hTarget_, hSource_.Get(), hCopy_.Receive()), S_OK);
-  EXPECT_EQ(manager->count, 3);
-  manager->EndLife();
-  manager->Release();
 }
 
 TEST_F(VelRshShaderManagerCopyTest, AShadersOwnCopy_IsTheManagersAndTheCodeTellsNothing) {
