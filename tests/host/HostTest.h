@@ -9,23 +9,15 @@
 #include "platform/configuration/VelRbaConfiguration.h"
 #include "platform/featuremodeler/VelOsmSUHandler.h"
 #include "platform/materials/VelIRenderingMaterial.h"
-#include "platform/objectmodeler/VelDictionary.h"
 #include "tests/RenderingShader/RshModelTest.h"
 
 /// Shaders are of the type "HostedType" where a test names none; its configuration is empty until a test fills it.
 class HostTest : public RshModelTest {
  protected:
-  static constexpr const char* hostDictionary = VEL_TEST_LIBRARY_FOLDER "/dictionaries/VelRshHost.dictionary";
   static constexpr const char* type = "HostedType";
 
-  void SetUp() override {
-    RshModelTest::SetUp();
-    ASSERT_EQ(VelDictionary::LoadFile(hostDictionary), S_OK);
-  }
-  void TearDown() override {
-    RshModelTest::TearDown();
-    EXPECT_EQ(VelDictionary::Unload(hostDictionary), S_OK);
-  }
+  void SetUp() override;
+  void TearDown() override;
 
   static void Configure(const char* iKey, const char* iValue, const char* iConfiguration = type) {
     ASSERT_TRUE(SUCCEEDED(VelRbaConfiguration::SetValue(iConfiguration, iKey, iValue)));

@@ -44,7 +44,8 @@ class MappingReaderTest : public RshModelTest {
     Configure(iParameter + ".Tag", iTag, iConfiguration);
   }
 
-  /// @return what was told since the last time, after "I " for an information and "E " for an error. Anything on another
+  /// @return what was told since the last time, after "I " for an information and "E " for an error. Anything on
+  /// another
   ///         channel is a failure, and so is an error without the source text of the reader.
   Texts Told(const std::string& iChannel) {
     Texts told;

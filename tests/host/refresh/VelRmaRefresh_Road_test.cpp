@@ -15,6 +15,7 @@
 #include "platform/materials/VelRbaFloatShaderModifyNotification.h"
 #include "platform/materials/VelRbaIntegralShaderModifyNotification.h"
 #include "platform/materials/VelRbaStringShaderModifyNotification.h"
+#include "platform/objectmodeler/VelDictionary.h"
 #include "platform/objectmodeler/VelObject.h"
 #include "platform/trace/VelTraceRecord.h"
 #include "platform/trace/VelTraceService.h"

@@ -27,7 +27,7 @@ class VelImageWorkerTest : public ::testing::Test {
   static constexpr int patient = 8000;  ///< Milliseconds that a sound answer never takes.
   static constexpr int brief = 300;     ///< Milliseconds for an answer that never comes.
 
-  void SetUp() override { UseProgram(VEL_TEST_IMAGE_WORKER); }
+  void SetUp() override { UseProgram(FakeProgram()); }
 
   void TearDown() override {
     client_.reset();
@@ -35,6 +35,9 @@ class VelImageWorkerTest : public ::testing::Test {
     EXPECT_EQ(CountOpenDescriptors(), openBefore_) << "a descriptor is left open";
     ::unsetenv("VEL_FAKE_IMAGE_WORKER");
   }
+
+  /// @return the path of the fake helper program
+  static const char* FakeProgram() noexcept;
 
   static void ExpectNoChild() {
     EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "a child is left";

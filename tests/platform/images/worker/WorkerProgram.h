@@ -43,8 +43,11 @@ class WorkerProgram {
     std::string cause;
     VelSystemChannel end;
     EXPECT_EQ(VelSystemChannel::CreatePair(channel_, end, cause), S_OK) << cause;
-    EXPECT_EQ(child_.Start(VEL_TEST_WORKER, {}, end, VelSystemChild::Output::WhereOurs, cause), S_OK) << cause;
+    EXPECT_EQ(child_.Start(Path(), {}, end, VelSystemChild::Output::WhereOurs, cause), S_OK) << cause;
   }
+
+  /// @return the path of the helper program
+  static const char* Path() noexcept;
 
   VelSystemChannel& Channel() { return channel_; }
   VelSystemChild& Child() { return child_; }
