@@ -7,8 +7,8 @@
 #include <array>
 #include <cstddef>
 #include <span>
-#include <string>
 
+#include "platform/base/VelString.h"
 #include "platform/images/pixels/VelImageSource.h"
 
 namespace {
@@ -71,14 +71,6 @@ bool IsSvg(std::string_view iBytes) {
   return iBytes.find("<svg") != std::string_view::npos || iBytes.find(":svg") != std::string_view::npos;
 }
 
-std::string LowerCase(std::string_view iText) {
-  std::string text(iText);
-  for (char& letter : text) {
-    if ('A' <= letter && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
-  }
-  return text;
-}
-
 VelImageKind KindOfContent(std::string_view iBytes) {
   for (const Mark& mark : marks) {
     if (iBytes.substr(std::min(mark.offset, iBytes.size())).starts_with(mark.bytes)) return mark.kind;
@@ -94,9 +86,9 @@ VelImageKind RecognizeImageKind(VelImageSource& ioSource, std::string_view iExte
   const std::size_t count = ioSource.ReadAt(0, std::as_writable_bytes(std::span(first)));
   const VelImageKind kind = KindOfContent({first.data(), count});
   if (kind != VelImageKind::Unknown) return kind;
-  const std::string extension = LowerCase(iExtension);
+  const VelString extension = VelString(iExtension).ToLower();
   const auto* found = std::find_if(extensions.begin(), extensions.end(),
-                                   [&](const Named& iNamed) { return iNamed.extension == extension; });
+                                   [&](const Named& iNamed) { return extension.View() == iNamed.extension; });
   return found == extensions.end() ? VelImageKind::Unknown : found->kind;
 }
 

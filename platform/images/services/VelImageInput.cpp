@@ -17,14 +17,6 @@ namespace {
 /// Up to this size the content of a file that was just written is worth reading to tell it from others.
 constexpr std::uint64_t mostHashedBytes = std::uint64_t{64} << 20U;
 
-std::string LowerCase(std::string_view iText) {
-  std::string text(iText);
-  for (char& letter : text) {
-    if ('A' <= letter && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
-  }
-  return text;
-}
-
 /// A file system's clock may tick so slowly that two versions of a file bear the same times.
 bool WasJustWritten(const VelSystemFileStatus& iStatus) {
   using std::chrono::nanoseconds;
@@ -43,7 +35,7 @@ HRESULT Fail(std::string iCause, std::string& oCause) {
 
 HRESULT VelImageInput::Open(const std::string& iPath, std::string& oCause) {
   if (FAILED(file_.Open(iPath, oCause))) return E_FAIL;
-  extension_ = LowerCase(VelRbaImageServices::SplitPath(VelUnicodeString(iPath)).extension.View());
+  extension_ = VelRbaImageServices::SplitPath(VelUnicodeString(iPath)).extension.ToVelString().ToLower().View();
   const std::uint64_t size = file_.GetStatus().size;
   if (size == 0) return Fail("is empty", oCause);
   VelFileImageSource source(file_);
