@@ -140,7 +140,8 @@ void SeparateAlpha(std::span<std::byte> ioPixels) {
     const std::uint32_t alpha = pixel >> 24;
     const auto separate = [&](int iShift) {
       const std::uint32_t multiplied = (pixel >> iShift) & 0xFF;
-      if (alpha == 0) return std::byte{0};
+      // Most pixels are opaque or empty, and need no division.
+      if (alpha == 255 || alpha == 0) return static_cast<std::byte>(multiplied & alpha);
       return static_cast<std::byte>(std::min<std::uint32_t>(255, (multiplied * 255 + alpha / 2) / alpha));
     };
     ioPixels[place] = separate(16);
@@ -148,6 +149,24 @@ void SeparateAlpha(std::span<std::byte> ioPixels) {
     ioPixels[place + 2] = separate(0);
     ioPixels[place + 3] = static_cast<std::byte>(alpha);
   }
+}
+
+/// Loads what is to be drawn, and measures the whole.
+/// @param[in] iText the whole file
+/// @param[in] iPart the file cut down to some groups; empty for the whole. It has the root of the whole, and thus its
+/// size,
+///            unless that comes from what is drawn.
+HRESULT LoadAndMeasure(std::string_view iText, std::string_view iPart, Handle& oHandle, Extent& oExtent,
+                       std::string& oCause) {
+  if (iPart.empty()) {
+    VEL_RETURN_IF_FAILED(Load(iText, oHandle, oCause));
+    return Measure(oHandle.get(), oExtent, oCause);
+  }
+  VEL_RETURN_IF_FAILED(Load(iPart, oHandle, oCause));
+  if (VelSvgSize::Of(RootSizeOf(oHandle.get()))) return Measure(oHandle.get(), oExtent, oCause);
+  Handle whole(nullptr, &g_object_unref);
+  VEL_RETURN_IF_FAILED(Load(iText, whole, oCause));
+  return Measure(whole.get(), oExtent, oCause);
 }
 
 /// The names as the checks want them: sorted, each once.
@@ -170,20 +189,20 @@ HRESULT VelSvgDrawing::Draw(VelImageSource& ioSource, int iDpi, std::vector<std:
   VelSvgOutline outline;
   VEL_RETURN_IF_FAILED(VelSvgText::Read(ioSource, text, oCause));
   VEL_RETURN_IF_FAILED(outline.Read(text, iGroups, oCause));
+  std::string part;
+  HRESULT cut = S_OK;
+  if (!iGroups.empty()) cut = VelSvgGroups::Cut(text, outline, iGroups, part, oCause);
+  VEL_RETURN_IF_FAILED(cut);
   Handle handle(nullptr, &g_object_unref);
   Extent extent;
   int width = 0;
   int height = 0;
-  VEL_RETURN_IF_FAILED(Load(text, handle, oCause));
-  VEL_RETURN_IF_FAILED(Measure(handle.get(), extent, oCause));
+  VEL_RETURN_IF_FAILED(LoadAndMeasure(text, part, handle, extent, oCause));
   VEL_RETURN_IF_FAILED(extent.size.CountPixels(iDpi, width, height, oCause));
   VEL_RETURN_IF_FAILED(oPicture.Allocate(width, height, VelPixelImage::Format::Rgba8, oCause));
-  if (!iGroups.empty()) {
-    std::string part;
-    const HRESULT code = VelSvgGroups::Cut(text, outline, iGroups, part, oCause);
-    if (code == S_FALSE) oUnknown = std::move(iGroups);
-    if (code != S_OK) return FAILED(code) ? code : S_OK;
-    VEL_RETURN_IF_FAILED(Load(part, handle, oCause));
+  if (cut == S_FALSE) {
+    oUnknown = std::move(iGroups);
+    return S_OK;
   }
   VEL_RETURN_IF_FAILED(Render(handle.get(), extent, oPicture, oCause));
   SeparateAlpha(oPicture.Bytes());
