@@ -3,28 +3,13 @@
 /// @file VelImageInput.cpp Opens an image file and tells it from others.
 #include "platform/images/services/VelImageInput.h"
 
-#include <chrono>
-#include <cstddef>
-#include <span>
-
 #include "platform/base/VelUnicodeString.h"
 #include "platform/images/VelRbaImageServices.h"
 #include "platform/images/pixels/VelImageSource.h"
 #include "platform/images/services/VelImageKey.h"
+#include "platform/images/services/VelYoungFiles.h"
 
 namespace {
-
-/// Up to this size the content of a file that was just written is worth reading to tell it from others.
-constexpr std::uint64_t mostHashedBytes = std::uint64_t{64} << 20U;
-
-/// A file system's clock may tick so slowly that two versions of a file bear the same times.
-bool WasJustWritten(const VelSystemFileStatus& iStatus) {
-  using std::chrono::nanoseconds;
-  constexpr std::chrono::seconds longestTick(2);
-  const auto now = std::chrono::system_clock::now().time_since_epoch();
-  return nanoseconds(iStatus.statusChangedAt) > now - longestTick ||
-         nanoseconds(iStatus.modifiedAt) > now - longestTick;
-}
 
 HRESULT Fail(std::string iCause, std::string& oCause) {
   oCause = std::move(iCause);
@@ -57,11 +42,5 @@ std::string VelImageInput::KeyOf(std::string_view iOperation, const VelDrawingOp
     key.Add(iOptions.dpi).Add(static_cast<std::int64_t>(iOptions.groups.size()));
     for (const std::string& group : iOptions.groups) key.Add(group);
   }
-  if (!WasJustWritten(file_.GetStatus())) return key.Finish();
-  if (file_.GetStatus().size > mostHashedBytes) {
-    return key.Add(std::chrono::steady_clock::now().time_since_epoch().count()).Finish();
-  }
-  std::string content(static_cast<std::size_t>(file_.GetStatus().size), '\0');
-  content.resize(file_.ReadAt(0, std::as_writable_bytes(std::span(content))));
-  return key.Add(content).Finish();
+  return key.Add(VelYoungFiles::ContentOf(file_)).Finish();
 }

@@ -35,8 +35,8 @@ class VelImageInput {
   /// @return the part of the path behind the last dot of its name, in lower case
   const std::string& GetExtension() const noexcept { return extension_; }
 
-  /// Names what an operation makes of the file. Where the file was written so lately that its times may not tell it
-  /// from its next version, its content counts too; a large one has another key each time then.
+  /// Names what an operation makes of the file, by what the system tells of it and, for a young one, by its content
+  /// (VelYoungFiles).
   /// @param[in] iOperation what is made
   /// @param[in] iOptions count for SVG files alone
   /// @return 40 hexadecimal digits

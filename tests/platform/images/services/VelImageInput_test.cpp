@@ -7,7 +7,9 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <chrono>
 #include <filesystem>
+#include <thread>
 
 #include "tests/platform/base/system/VelTemporaryFolder.h"
 
@@ -98,6 +100,17 @@ TEST_F(VelImageInputTest, KeyOf_AFileJustWritten_CountsItsContent) {
   const struct timespec times[2] = {status.st_atim, status.st_mtim};
   ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
   EXPECT_NE(KeyOf(path), before);
+}
+
+TEST_F(VelImageInputTest, KeyOf_AFileThatWasYoung_StaysWhenItAges) {
+  const std::string path = folder_.Write("a.svg", svg);
+  const std::string other = folder_.Write("b.svg", svg);
+  const std::string young = KeyOf(path);
+  std::this_thread::sleep_for(std::chrono::milliseconds(2100));
+  EXPECT_EQ(KeyOf(path), young) << "what was made of it is still found";
+  EXPECT_EQ(KeyOf(path), young);
+  const std::string aged = KeyOf(other);
+  EXPECT_EQ(KeyOf(other), aged) << "one that was never asked for while it was young is told by its times";
 }
 
 TEST_F(VelImageInputTest, KeyOf_ALargeFileJustWritten_IsNeverTheSame) {
