@@ -23,8 +23,8 @@ struct Remembered {
   bool isSettled;  ///< It was read again when its times told it apart, so that no later version can bear them.
 };
 
-std::map<std::string, Remembered>& Memory() {
-  static auto& memory = *new std::map<std::string, Remembered>;
+std::map<VelSystemFileStatus, Remembered>& Memory() {
+  static auto& memory = *new std::map<VelSystemFileStatus, Remembered>;
   return memory;
 }
 
@@ -46,8 +46,7 @@ std::string HashOf(const VelSystemInputFile& iFile) {
 
 std::string VelYoungFiles::ContentOf(const VelSystemInputFile& iFile) {
   const bool isYoung = WasJustWritten(iFile.GetStatus());
-  const std::string identity = VelImageKey().Add(iFile.GetStatus()).Finish();
-  const auto remembered = Memory().find(identity);
+  const auto remembered = Memory().find(iFile.GetStatus());
   const bool isRemembered = remembered != Memory().end();
   if (!isYoung && !isRemembered) return {};
   if (!isYoung && remembered->second.isSettled) return remembered->second.content;
@@ -60,6 +59,6 @@ std::string VelYoungFiles::ContentOf(const VelSystemInputFile& iFile) {
     return {};
   }
   if (Memory().size() >= mostRemembered) Memory().clear();
-  Memory()[identity] = {content, !isYoung};
+  Memory()[iFile.GetStatus()] = {content, !isYoung};
   return content;
 }
