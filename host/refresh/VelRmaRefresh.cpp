@@ -18,6 +18,16 @@
 #include "platform/materials/VelIRenderingMaterial.h"
 #include "platform/materials/VelRbaNotificationTopologyModification.h"
 
+namespace {
+
+/// @return null for a shader that publishes nothing
+VelCallbackManager* ManagerOf(const VelIRshShader_var& iShader) {
+  const VelIRshShaderPublisher_var hPublisher(iShader);
+  return hPublisher ? hPublisher->GetCallbackManager() : nullptr;
+}
+
+}  // namespace
+
 VelRmaRefresh::VelRmaRefresh(VelComponent& iComponent) : VelImplementation(iComponent) {
   VelEditScope::AddListener(*this);
 }
@@ -107,8 +117,7 @@ VelRmaRefresh::Followed* VelRmaRefresh::FindAbove(const VelBaseUnknown_WR& iPara
 
 void VelRmaRefresh::Listen(const VelRmaGraphWalk& iWalk) {
   for (const VelIRshShader_var& hShader : iWalk.shaders) {
-    const VelIRshShaderPublisher_var hPublisher(hShader);
-    VelCallbackManager* const manager = hPublisher ? hPublisher->GetCallbackManager() : nullptr;
+    VelCallbackManager* const manager = ManagerOf(hShader);
     if (manager == nullptr) continue;
     using Events = VelRshShaderPublisherEvents;
     static_cast<void>(manager->AddCallback(Events::PARAMETER_VALUE_UPDATED(), this, Receivers()));
@@ -120,8 +129,7 @@ void VelRmaRefresh::StopListening(const VelRmaGraphWalk& iWalk) {
   for (const VelIRshShader_var& hShader : iWalk.shaders) {
     // A shader that is connected here may stand below another material.
     if (Find(VelRshParameterServices::FindRenderingMaterial(*hShader).Get()) != nullptr) continue;
-    const VelIRshShaderPublisher_var hPublisher(hShader);
-    VelCallbackManager* const manager = hPublisher ? hPublisher->GetCallbackManager() : nullptr;
+    VelCallbackManager* const manager = ManagerOf(hShader);
     if (manager != nullptr) static_cast<void>(VelRshShaderPublisherEvents::UNBIND_CALLBACK(*manager, this));
   }
 }
