@@ -4,7 +4,6 @@
 #ifndef PLATFORM_BASE_SYSTEM_VELSYSTEMINPUTFILE_H
 #define PLATFORM_BASE_SYSTEM_VELSYSTEMINPUTFILE_H
 
-#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -22,7 +21,7 @@ struct VelSystemFileStatus {
   std::int64_t modifiedAt = 0;       ///< Nanoseconds since 1970: the content.
   std::int64_t statusChangedAt = 0;  ///< Nanoseconds since 1970: also the owner, the mode, the names.
 
-  friend auto operator<=>(const VelSystemFileStatus&, const VelSystemFileStatus&) = default;
+  friend bool operator==(const VelSystemFileStatus&, const VelSystemFileStatus&) = default;
 };
 
 /// An open regular file. The destructor closes.

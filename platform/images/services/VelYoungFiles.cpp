@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <map>
 #include <span>
+#include <tuple>
 
 #include "platform/base/system/VelSystemInputFile.h"
 #include "platform/images/services/VelImageKey.h"
@@ -23,8 +24,19 @@ struct Remembered {
   bool isSettled;  ///< It was read again when its times told it apart, so that no later version can bear them.
 };
 
-std::map<VelSystemFileStatus, Remembered>& Memory() {
-  static auto& memory = *new std::map<VelSystemFileStatus, Remembered>;
+/// Any order will do.
+struct Before {
+  bool operator()(const VelSystemFileStatus& iOne, const VelSystemFileStatus& iOther) const noexcept {
+    const auto fields = [](const VelSystemFileStatus& iStatus) {
+      return std::tie(iStatus.device, iStatus.number, iStatus.size, iStatus.modifiedAt, iStatus.statusChangedAt);
+    };
+    return fields(iOne) < fields(iOther);
+  }
+};
+using Memories = std::map<VelSystemFileStatus, Remembered, Before>;
+
+Memories& Memory() {
+  static auto& memory = *new Memories;
   return memory;
 }
 
