@@ -278,3 +278,5 @@ VelCallbackProbe* VelCallbackManager::SetProbe(VelCallbackProbe* iProbe) noexcep
   probe = iProbe;
   return before;
 }
+
+int VelCallbackManager::DeliveryDepth() noexcept { return deliveryDepth; }

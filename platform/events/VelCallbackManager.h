@@ -85,6 +85,9 @@ class VEL_PLATFORM_API VelCallbackManager {
   /// @return the one that was in place before, null for none
   static VelCallbackProbe* SetProbe(VelCallbackProbe* iProbe) noexcept;
 
+  /// @return the deliveries, of any manager, that are running now: how deep inside the events a trace is told
+  static int DeliveryDepth() noexcept;
+
  private:
   /// A subscription. A tombstone has no live part; it stays until no dispatch counts on the places.
   struct Entry {

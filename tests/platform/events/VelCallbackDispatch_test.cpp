@@ -382,4 +382,25 @@ TEST_F(VelCallbackDispatchTest, Probe_RecordsEveryDeliveryInOrderWithItsDepth) {
   EXPECT_EQ(VelCallbackManager::SetProbe(nullptr), nullptr) << "the probe that was there before is back";
 }
 
+TEST_F(VelCallbackDispatchTest, DeliveryDepth_CountsTheDeliveriesThatRun) {
+  const Publisher first = MakePublisher();
+  const Publisher second = MakePublisher();
+  const Subscriber a = MakeSubscriber("a");
+  const Subscriber b = MakeSubscriber("b");
+  Subscribe(first, a, {opened});
+  Subscribe(second, b, {closed});
+  std::vector<int> depths;
+  const auto note = [&] { depths.push_back(VelCallbackManager::DeliveryDepth()); };
+  a->act = [&](VelEventName) {
+    note();
+    second->Emit(closed);
+    note();
+  };
+  b->act = [&](VelEventName) { note(); };
+  note();
+  first->Emit(opened);
+  note();
+  EXPECT_EQ(depths, (std::vector<int>{0, 1, 2, 1, 0}));
+}
+
 }  // namespace
