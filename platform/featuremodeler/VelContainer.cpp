@@ -11,6 +11,18 @@
 
 VelIContainer_var VelIContainer::Create() { return VelIContainer_var(VelContainer::Make()); }
 
+VelIContainer_var VelIContainer::CreateLike(VelIContainer& iOther) {
+  const VelContainer* other = VelContainer::From(&iOther);
+  const bool isOpen = other != nullptr && other->State() != VelComponentState::Closed;
+  return isOpen ? VelIContainer_var(other->MakeLike()) : VelIContainer_var();
+}
+
+VelBaseUnknown_var VelContainer::MakeLike() const {
+  auto* made = new VelContainer;
+  made->catalogs_ = catalogs_;
+  return VelBaseUnknown_var::Adopt(made);
+}
+
 VelBaseUnknown_var VelContainer::Make() { return VelBaseUnknown_var::Adopt(new VelContainer); }
 
 VelContainer* VelContainer::From(VelBaseUnknown* iObject) noexcept {

@@ -20,6 +20,9 @@ class VelContainer final : public VelObject {
  public:
   static VelBaseUnknown_var Make();
 
+  /// @return an empty one that knows the same catalogs
+  VelBaseUnknown_var MakeLike() const;
+
   /// @return the container behind a pointer, null when it is none
   static VelContainer* From(VelBaseUnknown* iObject) noexcept;
 

@@ -37,6 +37,10 @@ class VEL_PLATFORM_API VelIContainer : public VelBaseUnknown {
   /// Makes an empty container.
   static VelIContainer_var Create();
 
+  /// Makes an empty container that knows the catalogs of another one.
+  /// @return empty when the other one is closed, or is no container of the feature modeler
+  static VelIContainer_var CreateLike(VelIContainer& iOther);
+
  protected:
   ~VelIContainer() = default;
 };

@@ -68,7 +68,16 @@ void VelTraceRegistry::RemoveScope(VelDiagnostics& ioScope) noexcept {
   ApplyEverywhere();
 }
 
+void VelTraceRegistry::AddMute() noexcept {
+  if (mutes_++ == 0) ApplyEverywhere();
+}
+
+void VelTraceRegistry::RemoveMute() noexcept {
+  if (--mutes_ == 0) ApplyEverywhere();
+}
+
 bool VelTraceRegistry::Emit(const QrnSysTrace& iChannel, VelTraceRecord iRecord) noexcept {
+  if (mutes_ > 0) return false;
   try {
     iRecord.channel = iChannel.Name();
     return Deliver(iRecord, (iChannel.switched_ & QrnSysTrace::Bit(iRecord.kind)) != 0);
@@ -113,14 +122,15 @@ bool VelTraceRegistry::Deliver(VelTraceRecord& ioRecord, bool iToSinks) {
 void VelTraceRegistry::ApplySwitch(QrnSysTrace& ioChannel) const noexcept {
   constexpr unsigned errorBit = QrnSysTrace::Bit(VelTraceKind::Error);
   constexpr unsigned warningBit = QrnSysTrace::Bit(VelTraceKind::Warning);
-  const int level = available_ ? switches_.LevelOf(ioChannel.name_) : VelTraceLevel::off;
+  const bool isHeard = available_ && mutes_ == 0;
+  const int level = isHeard ? switches_.LevelOf(ioChannel.name_) : VelTraceLevel::off;
   unsigned bits = 0;
   if (level >= VelTraceLevel::error) bits |= errorBit;
   if (level >= VelTraceLevel::warning) bits |= warningBit;
   if (level >= VelTraceLevel::info) bits |= QrnSysTrace::Bit(VelTraceKind::Information);
   if (level > VelTraceLevel::info) bits |= QrnSysTrace::Bit(VelTraceKind::ClassTrace);
   ioChannel.switched_ = static_cast<std::uint8_t>(bits);
-  if (available_ && !scopes_.empty()) bits |= errorBit | warningBit;
+  if (isHeard && !scopes_.empty()) bits |= errorBit | warningBit;
   ioChannel.accepted_ = static_cast<std::uint8_t>(bits);
   ioChannel.classLevel_ = static_cast<std::uint8_t>(level > VelTraceLevel::info ? level - VelTraceLevel::info : 0);
 }

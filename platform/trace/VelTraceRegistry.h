@@ -49,6 +49,10 @@ class VelTraceRegistry {
   void AddScope(VelDiagnostics& ioScope);
   void RemoveScope(VelDiagnostics& ioScope) noexcept;
 
+  /// Nothing is emitted until as many are removed.
+  void AddMute() noexcept;
+  void RemoveMute() noexcept;
+
   [[nodiscard]] VelListenerList<VelTraceSink>& Sinks() noexcept { return sinks_; }
   [[nodiscard]] VelTraceStreamSink& StandardErrorSink() noexcept { return standardErrorSink_; }
 
@@ -89,6 +93,7 @@ class VelTraceRegistry {
   VelTraceStreamSink standardErrorSink_;
   VelTraceCheckObserver checkObserver_;
   std::uint64_t sequence_ = 0;
+  int mutes_ = 0;
   bool available_ = true;
 };
 

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/featuremodeler/FindStartUp.h"
 #include "platform/featuremodeler/VelFeatureLayout.h"
 #include "platform/featuremodeler/VelICatalogManager.h"
 #include "platform/featuremodeler/VelIContainer.h"
@@ -361,6 +362,23 @@ TEST_F(VelCatalogTest, FeatureOfALoadedStartUp_AnswersAsAFeature_EvenWhenItsName
   VelString type;
   EXPECT_EQ(VelISpecObject_var(hFeature)->GetType(type), S_OK);
   EXPECT_EQ(type, "AskedA");
+}
+
+TEST_F(VelCatalogTest, AContainerMadeLikeAnother_KnowsItsCatalogsAndIsEmpty) {
+  const std::string file = folder_.Write("like", Catalog("Like", "startup LikeA\n"));
+  VelIContainer_var hContainer = VelIContainer::Create();
+  ASSERT_EQ(VelICatalogManager_var(hContainer)->LoadCatalog(file.c_str()), S_OK);
+  VelBaseUnknown_var hStartUp;
+  ASSERT_EQ(FindStartUp("VelISpecObject", "", "LikeA", *hContainer, hStartUp.Receive()), S_OK);
+  VelBaseUnknown_var hFeature;
+  ASSERT_EQ(VelISpecObject_var(hStartUp)->Instanciate("", hContainer.Get(), VelISpecObject::InterfaceId(),
+                                                      hFeature.Receive()),
+            S_OK);
+  const VelIContainer_var hLike = VelIContainer::CreateLike(*hContainer);
+  ASSERT_TRUE(hLike);
+  EXPECT_EQ(hLike->CountFeatures(), 0);
+  EXPECT_EQ(FindStartUp("VelISpecObject", "", "LikeA", *hLike, hStartUp.Receive()), S_OK);
+  EXPECT_EQ(FindStartUp("VelISpecObject", "", "LikeA", *VelIContainer::Create(), hStartUp.Receive()), E_FAIL);
 }
 
 }  // namespace
