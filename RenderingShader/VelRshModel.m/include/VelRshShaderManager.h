@@ -5,6 +5,7 @@
 #define RENDERINGSHADER_VELRSHMODEL_M_INCLUDE_VELRSHSHADERMANAGER_H
 
 #include "RenderingShader/VelRshModel.m/include/VelRshModelApi.h"
+#include "RenderingShader/VelRshModel.m/include/VelRshUpgradePlan.h"
 #include "RenderingShader/interfaces/VelIRshShader.h"
 #include "RenderingShader/interfaces/VelIRshShaderFactory.h"
 #include "platform/base/VelListPtrVelBaseUnknown.h"
@@ -69,6 +70,15 @@ class VEL_RSH_MODEL_API VelRshShaderManager : public VelCommand {
   ///         the shader stays in the container, as the only place of the old values.
   HRESULT UpgradeShader(VelIRshShader* iShader);
 
+  /// Tells what UpgradeShader would do, without doing it: the shader, its container and the shaders connected to it are
+  /// read only, and nothing is traced but the call. The factory fills a shader of the same type, version, usage and
+  /// output type in a container of its own; one that looks at anything else can make the upgrade differ, and so can
+  /// whoever writes to the shader while it is upgraded: a listener, or the appearance of the material above it.
+  /// @param[out] oPlan replaced; holds as long as shader, connected shaders, factory and configuration stay as they are
+  /// @return S_OK, also where the plan tells that the upgrade would fail; E_FAIL when the shader is null; E_NOINTERFACE
+  ///         when the factory cannot be given a shader to fill: then the plan has no rows
+  HRESULT PlanUpgrade(VelIRshShader* iShader, VelRshUpgradePlan& oPlan);
+
   static const VelMetaClass& MetaObject() noexcept;
   static const char* ClassId() noexcept;
   /// @return null: the manager makes itself
@@ -100,6 +110,11 @@ class VEL_RSH_MODEL_API VelRshShaderManager : public VelCommand {
   /// @return false for a type that does not suit; oResult is the code of the last call of the factory
   static bool Suits(VelIRshShaderFactory& iFactory, const VelString& iType, unsigned int iUsage,
                     const VelString& iOutputType, HRESULT& oResult);
+
+  /// Reads type and versions.
+  /// @param[out] oFactory of the type; on failure null or not to be used
+  /// @return why there is nothing that could be upgraded; S_OK also where the versions are equal
+  HRESULT FindUpgrade(VelIRshShader* iShader, VelRshUpgradePlan& oPlan, VelIRshShaderFactory** oFactory);
 
   /// @param[in,out] oCopies the copies are appended, each with one reference that the caller releases
   void CopyNodes(const VelIContainer_var& iContainer, const VelListPtrVelBaseUnknown& iNodes, VelIRshShader& ioCopy,

@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
-/// @file VelRshValueCopy.h Copies the value of a parameter into a new one of its type.
+/// @file VelRshValueCopy.h Copies the value of a parameter into a new one of its type, and writes it as a text.
 #ifndef RENDERINGSHADER_VELRSHMODEL_M_SRC_MANAGEMENT_VELRSHVALUECOPY_H
 #define RENDERINGSHADER_VELRSHMODEL_M_SRC_MANAGEMENT_VELRSHVALUECOPY_H
 
 #include "RenderingShader/interfaces/VelIRshParameter.h"
+#include "platform/base/VelUnicodeString.h"
 
 /// What became of a copy.
 struct VelRshValueCopy {
@@ -21,6 +22,10 @@ struct VelRshValueCopy {
   /// not written.
   /// @param[in] iStartUp the type of both
   static VelRshValueCopy Run(const VelString& iStartUp, VelIRshParameter& iSource, VelIRshParameter& ioTarget);
+
+  /// @param[in] iStartUp the type of the parameter
+  /// @return what a copy would read, as VelRshValueText; empty where it would read nothing
+  static VelUnicodeString TextOf(const VelString& iStartUp, VelIRshParameter& iParameter);
 };
 
 #endif  // RENDERINGSHADER_VELRSHMODEL_M_SRC_MANAGEMENT_VELRSHVALUECOPY_H

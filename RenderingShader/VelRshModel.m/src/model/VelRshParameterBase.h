@@ -79,6 +79,9 @@ class VelRshParameterBase : public VelSpecLifeCycleObjectExt {
   ///         word by word: without a name, below a shader of another module, and with an unknown word
   const VelRshTagRecord* FindTagRecord();
 
+  /// The connected shader, without handing it to the model events; as VelIRshParameter::GetConnection.
+  HRESULT ReadConnection(VelIRshShader_var& oShader);
+
   /// @return what a parameter receives of the shader that owns it
   static const VelReceiverTable& ShaderReceivers() noexcept;
 
@@ -107,8 +110,6 @@ class VelRshParameterBase : public VelSpecLifeCycleObjectExt {
   /// Tells what the connected shader told.
   void TellFromConnection(VelEventName iEvent, VelBaseUnknown* iPublisher, const VelNotification* iNotification);
 
-  /// The connected shader, without handing it to the model events; as VelIRshParameter::GetConnection.
-  HRESULT ReadConnection(VelIRshShader_var& oShader);
   HRESULT WriteConnection(VelIRshShader* iShader);
   void Unbind(VelIRshShader& ioShader);
   void Bind(VelIRshShader& ioShader, std::span<const VelEventName> iOwnEvents);
