@@ -142,7 +142,7 @@ bool VelPlatformSession::LoadDictionary(const std::string& iPath) {
 void VelPlatformSession::LoadDictionariesOfEnvironment() {
   for (const std::string& path : VelEnvironment::GetPaths("VEL_DICTIONARY_PATH")) {
     if (LoadDictionary(path)) continue;
-    VelTraceHandle(channel).Warning("VEL_DICTIONARY_PATH names '%s', which is left out", path);
+    VelTraceHandle(channel).Warning("VEL_DICTIONARY_PATH names '%s', which is not loaded, or not as a whole", path);
   }
 }
 

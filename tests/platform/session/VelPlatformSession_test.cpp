@@ -217,7 +217,7 @@ TEST_F(VelPlatformSessionTest, WhatIsOddButNoFailure_IsAWarning) {
   EXPECT_EQ(session.Start({.searchFolders = {"/no/folder"}}), S_OK);
   EXPECT_EQ(session.End(), S_OK);
   EXPECT_EQ(recorder_.Texts(VelTraceKind::Warning),
-            (Texts{"VEL_DICTIONARY_PATH names '/nowhere/at/all', which is left out",
+            (Texts{"VEL_DICTIONARY_PATH names '/nowhere/at/all', which is not loaded, or not as a whole",
                    "The search folder '/no/folder' cannot be read",
                    "Objects outlive the session { components = 1, forwarders = 0 }"}));
 }
