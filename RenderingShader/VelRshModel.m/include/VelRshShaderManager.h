@@ -71,12 +71,13 @@ class VEL_RSH_MODEL_API VelRshShaderManager : public VelCommand {
   HRESULT UpgradeShader(VelIRshShader* iShader);
 
   /// Tells what UpgradeShader would do, without doing it: the shader, its container and the shaders connected to it are
-  /// read only, and nothing is traced but the call. The factory fills a shader of the same type, version, usage and
-  /// output type in a container of its own; one that looks at anything else can make the upgrade differ, and so can
-  /// whoever writes to the shader while it is upgraded: a listener, or the appearance of the material above it.
+  /// read only, and nothing is traced but the call; a check that what follows would raise is raised. The factory fills
+  /// a shader of the same type, version, usage and output type in a container of its own; one that looks at anything
+  /// else can make the upgrade differ, and so can whoever writes to the shader while it is upgraded: a listener, or the
+  /// appearance of the material above it.
   /// @param[out] oPlan replaced; holds as long as shader, connected shaders, factory and configuration stay as they are
   /// @return S_OK, also where the plan tells that the upgrade would fail; E_FAIL when the shader is null; E_NOINTERFACE
-  ///         when the factory cannot be given a shader to fill: then the plan has no rows
+  ///         when no shader can be made for the factory to fill: then the plan knows the versions only
   HRESULT PlanUpgrade(VelIRshShader* iShader, VelRshUpgradePlan& oPlan);
 
   static const VelMetaClass& MetaObject() noexcept;

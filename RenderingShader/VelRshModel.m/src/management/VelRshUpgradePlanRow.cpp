@@ -10,7 +10,11 @@ namespace {
 
 using Row = VelRshUpgradePlanRow;
 
-std::string NameOf(const Row& iRow) { return "'" + VelRshValueText::Escape(iRow.parameter.View()) + "'"; }
+/// @return the name in quotes, the place where there is none
+std::string NameOf(const Row& iRow) {
+  if (!iRow.parameter.IsEmpty()) return "'" + VelRshValueText::Escape(iRow.parameter.View()) + "'";
+  return VelFormat::ToText("parameter %d", iRow.formerPosition != 0 ? iRow.formerPosition : iRow.position);
+}
 
 std::string TypeOf(const Row& iRow) { return VelRshValueText::Escape(iRow.shaderType.View()); }
 

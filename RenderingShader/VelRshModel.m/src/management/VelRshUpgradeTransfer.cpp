@@ -28,8 +28,9 @@ std::vector<VelRshUpgradeTransfer::Parameter> VelRshUpgradeTransfer::Describe(co
   for (const VelIRshParameter_var& hParameter : iParameters) {
     Parameter& parameter = described.emplace_back();
     parameter.hParameter = hParameter;
-    parameter.isDescribed =
-        SUCCEEDED(hParameter->GetName(parameter.name)) && SUCCEEDED(hParameter->GetType(parameter.startUp));
+    const HRESULT named = hParameter->GetName(parameter.name);
+    const HRESULT typed = hParameter->GetType(parameter.startUp);
+    parameter.isDescribed = SUCCEEDED(named) && SUCCEEDED(typed);
   }
   return described;
 }

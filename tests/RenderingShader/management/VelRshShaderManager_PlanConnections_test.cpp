@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 The VelRshModel authors
+// SPDX-License-Identifier: Apache-2.0
+/// @file VelRshShaderManager_PlanConnections_test.cpp What a plan tells of connections, and of the values that follow
+/// them.
+#include "platform/configuration/VelRbaConfiguration.h"
+#include "platform/materials/VelIRmaEditionMode.h"
+#include "tests/RenderingShader/management/fixtures/UpgradeTest.h"
+
+namespace {
+
+using Kind = VelRshUpgradePlanRow::Kind;
+
+class VelRshShaderManagerPlanConnectionsTest : public UpgradeTest {
+ protected:
+  void SetUp() override {
+    UpgradeTest::SetUp();
+    EXPECT_TRUE(SUCCEEDED(VelRbaConfiguration::SetValue("Default", "scale.Tag", "scale_u")));
+    today_ = [](const VelIRshShader_var& iShader) {
+      AddScalar(iShader, "connected", 1.0F);
+      AddScalar(iShader, "scale", 100.0F);
+    };
+  }
+
+  /// Connects a new parameter of a shader to another one.
+  static void Connect(const VelIRshShader_var& iShader, const char* iName, const VelIRshShader_var& iTo) {
+    EXPECT_EQ(AddScalar(iShader, iName, 1.0F)->SetConnection(iTo.Get()), S_OK);
+  }
+
+  static void Set(const VelIRshParameter_var& ioParameter, float iValue) {
+    EXPECT_TRUE(SUCCEEDED(ioParameter->SetValue(&iValue)));
+  }
+
+  /// @return the sentences about values that follow
+  Texts Following() {
+    Texts sentences;
+    for (const VelRshUpgradePlanRow& row : Plan().rows) {
+      if (row.kind == Kind::MappingTaken) sentences.emplace_back(row.Text().View());
+    }
+    return sentences;
+  }
+};
+
+TEST_F(VelRshShaderManagerPlanConnectionsTest, Connections_AreKeptLostAndMade) {
+  const VelIRshShader_var hNode = AddNode(hShader_, "node");
+  const VelIRshShader_var hElsewhere = MakeShader("elsewhere");
+  for (const char* name : {"kept", "replaced"}) Connect(hShader_, name, hNode);
+  for (const char* name : {"retyped", "dropped"}) Connect(hShader_, name, hElsewhere);
+  today_ = [](const VelIRshShader_var& iShader) {
+    AddText(iShader, "retyped", "today");
+    for (const char* name : {"kept", "replaced", "made"}) AddScalar(iShader, name, 1.0F);
+    for (const char* name : {"replaced", "made"}) {
+      EXPECT_EQ(Find(iShader, name)->SetConnection(AddNewNode(iShader, "anew").Get()), S_OK);
+    }
+  };
+  const VelRshUpgradePlan plan = Plan();
+  EXPECT_EQ(SentencesOf(plan),
+            (Texts{"'retyped' was VelRmaScalar 1 and is VelRmaString \"today\"",
+                   "'retyped' loses its connection to elsewhere", "'kept' keeps 1", "'kept' stays connected to node",
+                   "'replaced' keeps 1", "'replaced' stays connected to node", "'made' is new, with 1",
+                   "'made' is connected to a new anew", "'dropped' goes, and with it 1",
+                   "'dropped' loses its connection to elsewhere"}));
+  EXPECT_TRUE(IsSameObject(plan.rows[1].shader.Get(), hElsewhere.Get()));
+  EXPECT_TRUE(IsSameObject(plan.rows[3].shader.Get(), hNode.Get()));
+  EXPECT_EQ(plan.rows[3].position, 2);
+  EXPECT_EQ(plan.rows[3].formerPosition, 1);
+  EXPECT_FALSE(plan.rows[7].shader);
+  EXPECT_EQ(plan.rows[7].shaderType, "anew");
+}
+
+TEST_F(VelRshShaderManagerPlanConnectionsTest, ConnectedShaders_AreToldWithTheValuesThatTheyTakeOver) {
+  const VelIRshShader_var hNode = AddNode(hShader_, "node");
+  AddScalar(hNode, "not tagged", 8.0F);
+  const VelIRshParameter_var hScale = AddScalar(hNode, "scale", 8.0F);
+  Connect(hShader_, "connected", hNode);
+  AddScalar(hShader_, "scale", 2.0F);
+  Set(hScale, 5.0F);
+  const VelRshUpgradePlan plan = Plan();
+  EXPECT_EQ(SentencesOf(plan), (Texts{"'connected' keeps 1", "'connected' stays connected to node",
+                                      "'scale' keeps 2; its default is 100", "'scale' of node takes 2 instead of 5"}));
+  EXPECT_TRUE(IsSameObject(plan.rows[3].shader.Get(), hNode.Get()));
+  EXPECT_EQ(plan.rows[3].position, 2);
+  EXPECT_EQ(ScalarOf(hScale), 5.0F);
+}
+
+TEST_F(VelRshShaderManagerPlanConnectionsTest, ShadersBehindThem_FollowThroughWhatIsConnectedBetween) {
+  const VelIRshShader_var hNear = AddNode(hShader_, "near");
+  const VelIRshShader_var hFar = AddNode(hNear, "far");
+  const VelIRshParameter_var hFarScale = AddScalar(hFar, "scale", 8.0F);
+  const VelIRshParameter_var hNearScale = AddScalar(hNear, "scale", 8.0F);
+  Connect(hNear, "to far", hFar);
+  Connect(hShader_, "connected", hNear);
+  AddScalar(hShader_, "scale", 2.0F);
+  Set(hNearScale, 5.0F);
+  Set(hFarScale, 6.0F);
+  EXPECT_EQ(Following(), (Texts{"'scale' of near takes 2 instead of 5", "'scale' of far takes 2 instead of 6"}));
+  Set(hNearScale, 2.0F);
+  Set(hFarScale, 6.0F);
+  EXPECT_EQ(Following(), Texts{}) << "the one between does not change, so that nothing goes on from there";
+}
+
+TEST_F(VelRshShaderManagerPlanConnectionsTest, AValueThatWasNeverSet_IsTakenOverToo) {
+  const VelIRshShader_var hNode = AddNode(hShader_, "node");
+  Connect(hShader_, "connected", hNode);
+  AddScalar(hShader_, "scale", 2.0F);
+  static_cast<void>(Add(hNode, "scale", "VelRmaScalar"));
+  EXPECT_EQ(Following(), Texts{"'scale' of node takes 2"});
+}
+
+TEST_F(VelRshShaderManagerPlanConnectionsTest, ARing_GivesBackToTheShaderItself) {
+  EXPECT_TRUE(SUCCEEDED(VelRbaConfiguration::SetValue("mine", "scale.Tag", "scale_u")));
+  EXPECT_TRUE(SUCCEEDED(VelRbaConfiguration::SetValue("mine", "other.Tag", "scale_u")));
+  EXPECT_TRUE(SUCCEEDED(VelRbaConfiguration::SetValue("node", "scale.Tag", "scale_u")));
+  const VelIRshShader_var hNode = AddNode(hShader_, "node");
+  const VelIRshParameter_var hScale = AddScalar(hNode, "scale", 8.0F);
+  Connect(hNode, "back", hShader_);
+  Connect(hShader_, "connected", hNode);
+  const VelIRshParameter_var hOwnScale = AddScalar(hShader_, "scale", 2.0F);
+  const VelIRshParameter_var hOther = AddScalar(hShader_, "other", 3.0F);
+  VelIRmaEditionMode::SetActivation(VelIRmaEditionMode::Mode::SilentPropagation, true);
+  Set(hScale, 5.0F);
+  Set(hOwnScale, 2.0F);
+  Set(hOther, 3.0F);
+  VelIRmaEditionMode::SetActivation(VelIRmaEditionMode::Mode::SilentPropagation, false);
+  today_ = [](const VelIRshShader_var& iShader) {
+    for (const char* name : {"connected", "scale", "other"}) AddScalar(iShader, name, 1.0F);
+  };
+  EXPECT_EQ(SentencesOf(Plan()),
+            (Texts{"'connected' keeps 1", "'connected' stays connected to node", "'scale' keeps 2; its default is 1",
+                   "'other' loses 3 and takes 2", "'scale' of node takes 2 instead of 5"}));
+  EXPECT_EQ(Upgrade(), S_OK);
+  EXPECT_EQ(Scalars(), (std::vector<float>{1.0F, 2.0F, 2.0F}));
+}
+
+TEST_F(VelRshShaderManagerPlanConnectionsTest, WhileNothingPropagates_NothingFollows) {
+  const VelIRshShader_var hNode = AddNode(hShader_, "node");
+  Connect(hShader_, "connected", hNode);
+  AddScalar(hShader_, "scale", 2.0F);
+  AddScalar(hNode, "scale", 5.0F);
+  const auto silent = VelIRmaEditionMode::Mode::SilentPropagation;
+  VelIRmaEditionMode::SetActivation(silent, true);
+  EXPECT_EQ(Following(), Texts{});
+  EXPECT_TRUE(VelIRmaEditionMode::GetActivation(silent));
+  VelIRmaEditionMode::SetActivation(silent, false);
+  EXPECT_EQ(Following(), Texts{"'scale' of node takes 2 instead of 5"});
+  EXPECT_FALSE(VelIRmaEditionMode::GetActivation(silent));
+}
+
+TEST_F(VelRshShaderManagerPlanConnectionsTest, AShaderOfAnotherModule_StaysConnectedAndItsValuesAreNotForetold) {
+  odd_.emplace(VEL_TEST_LIBRARY_FOLDER);
+  ASSERT_EQ(VelICatalogManager_var(hContainer_)->LoadCatalog(VEL_TEST_MANAGEMENT_CATALOG), S_OK);
+  const VelIRshShader_var hOdd(MakeIn(hContainer_, "VelTestOddShader"));
+  ASSERT_TRUE(hOdd);
+  EXPECT_EQ(Add(hShader_, "void", "VelRmaVoid")->SetConnection(hOdd.Get()), S_OK);
+  today_ = [](const VelIRshShader_var& iShader) { static_cast<void>(Add(iShader, "void", "VelRmaVoid")); };
+  EXPECT_EQ(SentencesOf(Plan()), (Texts{"'void' stays", "'void' stays connected to odd"}));
+}
+
+}  // namespace
