@@ -46,7 +46,7 @@ class Conversion {
   VelConfigurationContent content;
 
  private:
-  static VelConfigurationFault At(VelTomlPosition iPosition, std::string iCause) {
+  static VelConfigurationFault At(VelConfigurationPosition iPosition, std::string iCause) {
     return {iPosition.line, iPosition.column, std::move(iCause)};
   }
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
-/// @file VelTomlText.h Parses a TOML text into its values.
+/// @file VelTomlText.h Parses a TOML text into its values, each with its path.
 #ifndef PLATFORM_FILES_VELTOMLTEXT_H
 #define PLATFORM_FILES_VELTOMLTEXT_H
 
@@ -9,12 +9,7 @@
 #include <vector>
 
 #include "platform/configuration/VelConfigurationContent.h"
-
-/// A place in a text, both counted from 1, columns in code points.
-struct VelTomlPosition {
-  unsigned line = 0;
-  unsigned column = 0;
-};
+#include "platform/configuration/VelConfigurationNode.h"
 
 /// A value, with the names of the tables around it.
 struct VelTomlValue {
@@ -27,11 +22,11 @@ struct VelTomlValue {
   std::vector<std::string> path;  ///< From the outermost table to the value's own key: at least one.
   Kind kind;
   std::string text;
-  VelTomlPosition key;  ///< Of the key's last part.
-  VelTomlPosition position;
+  VelConfigurationPosition key;  ///< Of the key's last part.
+  VelConfigurationPosition position;
 };
 
-/// The one place that knows the TOML library.
+/// The values of a text, for those whose files hold no arrays.
 class VelTomlText {
  public:
   /// Parses a text within the limits of VelTomlGuard. Tables within tables, dotted keys and inline tables are the same.
