@@ -5,6 +5,8 @@
 
 #include <utility>
 
+#include "platform/configuration/VelConfigurationSources.h"
+#include "platform/configuration/VelMsgCatalog.h"
 #include "platform/configuration/VelRbaConfiguration.h"
 #include "platform/trace/VelTraceHandle.h"
 
@@ -18,54 +20,62 @@ const VelString* VelConfigurationTables::Find(const VelString& iConfiguration, c
   if (const auto level = memo_.find(iConfiguration); level != memo_.end()) {
     if (const auto known = level->second.find(iKey); known != level->second.end()) return known->second;
   }
-  const VelString* value = Search(iConfiguration, iKey);
+  if (VelConfigurationSources::Instance().List()) OnChange();
+  const Answer answer = Search(iConfiguration, iKey);
+  if (!answer.isLasting) return answer.value;
   if (memoSize_ >= memoLimit) {
     memo_ = {};
     memoSize_ = 0;
   }
-  memo_[iConfiguration].emplace(iKey, value);
+  memo_[iConfiguration].emplace(iKey, answer.value);
   ++memoSize_;
-  return value;
+  return answer.value;
 }
 
-const VelString* VelConfigurationTables::FindIn(const Configuration& iConfiguration, const VelString& iKey) {
-  const auto found = iConfiguration.values.find(iKey);
-  return found != iConfiguration.values.end() ? &found->second.value : nullptr;
+/// What files and code say stands before what the source says.
+VelConfigurationTables::Answer VelConfigurationTables::FindIn(const VelString& iConfiguration, const VelString& iKey) {
+  if (const auto known = configurations_.find(iConfiguration); known != configurations_.end()) {
+    const auto found = known->second.values.find(iKey);
+    if (found != known->second.values.end()) return {&found->second.value};
+  }
+  const auto* sourced = VelConfigurationSources::Instance().Find(iConfiguration);
+  if (sourced == nullptr) return {};
+  const auto found = sourced->values.find(iKey);
+  if (found == sourced->values.end()) return {};
+  if (!found->second.isMessage) return {&found->second.text};
+  message_ = VelMsgCatalog::BuildMessage(iConfiguration, iKey).ToVelString();
+  return {&message_, false};
 }
 
-const VelConfigurationTables::Configuration* VelConfigurationTables::ParentOf(
-    const Configuration& iConfiguration) const {
-  if (iConfiguration.parent.value.IsEmpty()) return nullptr;
-  const auto found = configurations_.find(iConfiguration.parent.value);
-  return found != configurations_.end() ? &found->second : nullptr;
+const VelString* VelConfigurationTables::ParentOf(const VelString& iConfiguration) const {
+  const auto known = configurations_.find(iConfiguration);
+  if (known != configurations_.end() && !known->second.parent.value.IsEmpty()) return &known->second.parent.value;
+  const auto* sourced = VelConfigurationSources::Instance().Find(iConfiguration);
+  return sourced != nullptr && !sourced->parent.IsEmpty() ? &sourced->parent : nullptr;
 }
 
 /// Climbs without recursion, however many parents there are. A circle is found by a mark that is left behind and moved
 /// up after 1, 2, 4, 8 ... steps: whoever meets it again walks in a circle.
-const VelString* VelConfigurationTables::Search(const VelString& iConfiguration, const VelString& iKey) {
-  const auto start = configurations_.find(iConfiguration);
-  const Configuration* level = start != configurations_.end() ? &start->second : nullptr;
-  const Configuration* mark = level;
+VelConfigurationTables::Answer VelConfigurationTables::Search(const VelString& iConfiguration, const VelString& iKey) {
+  const VelString* mark = &iConfiguration;
   std::size_t steps = 0;
   std::size_t stepsToNextMark = 1;
-  for (; level != nullptr; level = ParentOf(*level)) {
-    if (steps != 0 && level == mark) {
+  for (const VelString* level = mark; level != nullptr; level = ParentOf(*level)) {
+    if (steps != 0 && *level == *mark) {
       ReportCircle(iConfiguration);
-      return nullptr;
+      return {};
     }
-    if (const VelString* value = FindIn(*level, iKey); value != nullptr) return value;
+    if (const Answer answer = FindIn(*level, iKey); answer.value != nullptr) return answer;
     if (++steps != stepsToNextMark) continue;
     mark = level;
     stepsToNextMark *= 2;
   }
-  const auto last = configurations_.find(VelRbaConfiguration::defaultName);
-  return last != configurations_.end() ? FindIn(last->second, iKey) : nullptr;
+  return FindIn(VelRbaConfiguration::defaultName, iKey);
 }
 
 /// Said once per configuration until something changes: each of its keys would meet the same circle.
 void VelConfigurationTables::ReportCircle(const VelString& iConfiguration) {
-  Configuration& configuration = configurations_.at(iConfiguration);
-  if (std::exchange(configuration.circleReportedAt, generation_) == generation_) return;
+  if (circles_.size() >= memoLimit || !circles_.insert(iConfiguration).second) return;
   VelTraceHandle("VelRbaConfiguration")
       .Error(VEL_HERE("platform/configuration/VelRbaConfiguration"), "The parents of '%s' run in a circle",
              iConfiguration);
@@ -110,13 +120,15 @@ HRESULT VelConfigurationTables::SetParent(const VelString& iConfiguration, const
 }
 
 HRESULT VelConfigurationTables::Remove(const VelString& iConfiguration) {
-  if (configurations_.erase(iConfiguration) == 0) return S_FALSE;
+  const bool isSourced = VelConfigurationSources::Instance().Remove(iConfiguration);
+  if (configurations_.erase(iConfiguration) == 0 && !isSourced) return S_FALSE;
   OnChange();
   return S_OK;
 }
 
 void VelConfigurationTables::Clear() {
-  if (configurations_.empty()) return;
+  const bool isSourced = VelConfigurationSources::Instance().Clear();
+  if (configurations_.empty() && !isSourced) return;
   configurations_.clear();
   OnChange();
 }
@@ -153,8 +165,18 @@ bool VelConfigurationTables::EndSession(Configuration& ioConfiguration) {
   return changed;
 }
 
+void VelConfigurationTables::BeginSession() {
+  VelConfigurationSources::Instance().BeginSession();
+  // Nothing has changed until the source is there, but absences are not to be remembered any more.
+  ForgetAnswers();
+}
+
+void VelConfigurationTables::ForgetSources() {
+  if (VelConfigurationSources::Instance().Forget()) OnChange();
+}
+
 void VelConfigurationTables::EndSession() {
-  bool changed = false;
+  bool changed = VelConfigurationSources::Instance().EndSession();
   for (auto& [name, configuration] : configurations_) {
     if (EndSession(configuration)) changed = true;
   }
@@ -167,6 +189,11 @@ void VelConfigurationTables::EndSession() {
 
 void VelConfigurationTables::OnChange() {
   ++generation_;
+  ForgetAnswers();
+}
+
+void VelConfigurationTables::ForgetAnswers() {
   if (!memo_.empty()) memo_ = {};
   memoSize_ = 0;
+  circles_.clear();
 }

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <optional>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "platform/base/HResult.h"
 #include "platform/base/VelString.h"
@@ -37,8 +38,14 @@ class VelConfigurationTables {
   /// Enters all that a file says.
   void Enter(const VelConfigurationContent& iContent, VelConfigurationOwner iOwner);
 
+  /// Lets the source of configurations be asked, whose values stand beneath all others.
+  void BeginSession();
+
   /// Takes out what belongs to the session.
   void EndSession();
+
+  /// Has the source asked again.
+  void ForgetSources();
 
   std::uint64_t Generation() const noexcept { return generation_; }
 
@@ -57,24 +64,32 @@ class VelConfigurationTables {
   struct Configuration {
     Cell parent;  ///< Empty for none.
     std::unordered_map<VelString, Cell> values;
-    std::uint64_t circleReportedAt = 0;  ///< The generation in which its circle was reported, 0 for never.
+  };
+
+  /// What a search has found.
+  struct Answer {
+    const VelString* value = nullptr;  ///< Null for nothing.
+    bool isLasting = true;             ///< Whether it is the answer until the next change, and not one by language.
   };
 
   using Memo = std::unordered_map<VelString, std::unordered_map<VelString, const VelString*>>;
 
   static bool Write(Cell& ioCell, bool iIsNew, const VelString& iValue, VelConfigurationOwner iOwner);
   static bool EndSession(Configuration& ioConfiguration);
-  static const VelString* FindIn(const Configuration& iConfiguration, const VelString& iKey);
 
   bool WriteValue(const VelString& iConfiguration, const VelString& iKey, const VelString& iValue,
                   VelConfigurationOwner iOwner);
   bool WriteParent(const VelString& iConfiguration, const VelString& iParent, VelConfigurationOwner iOwner);
-  const VelString* Search(const VelString& iConfiguration, const VelString& iKey);
-  const Configuration* ParentOf(const Configuration& iConfiguration) const;
+  Answer Search(const VelString& iConfiguration, const VelString& iKey);
+  Answer FindIn(const VelString& iConfiguration, const VelString& iKey);
+  const VelString* ParentOf(const VelString& iConfiguration) const;
   void ReportCircle(const VelString& iConfiguration);
   void OnChange();
+  void ForgetAnswers();
 
   std::unordered_map<VelString, Configuration> configurations_;
+  std::unordered_set<VelString> circles_;  ///< Whose circle was reported since the last change.
+  VelString message_;                      ///< The last answer that was one by language.
   Memo memo_;
   std::size_t memoSize_ = 0;
   std::uint64_t generation_ = 1;

@@ -9,6 +9,7 @@
 
 #include "platform/base/VelEnvironment.h"
 #include "platform/configuration/VelConfigurationFile.h"
+#include "platform/configuration/VelConfigurationSources.h"
 
 namespace {
 
@@ -49,6 +50,29 @@ const VelUnicodeString* Find(const std::unordered_map<VelString, Messages>& iCat
   return message != messages->second.end() ? &message->second : nullptr;
 }
 
+/// A catalog as it was filled, and beneath it what the source of configurations says of the same name.
+class Catalog {
+ public:
+  explicit Catalog(const VelString& iName) {
+    const auto found = TheState().catalogs.find(iName);
+    if (found != TheState().catalogs.end()) own_ = &found->second;
+    const auto* sourced = VelConfigurationSources::Instance().Find(iName);
+    if (sourced != nullptr) sourced_ = &sourced->messages;
+  }
+
+  const VelUnicodeString* Find(const VelString& iLanguage, const VelString& iKey) const {
+    for (const auto* messages : {own_, sourced_}) {
+      const VelUnicodeString* message = messages != nullptr ? ::Find(*messages, iLanguage, iKey) : nullptr;
+      if (message != nullptr) return message;
+    }
+    return nullptr;
+  }
+
+ private:
+  const std::unordered_map<VelString, Messages>* own_ = nullptr;
+  const std::unordered_map<VelString, Messages>* sourced_ = nullptr;
+};
+
 /// Splits "<catalog>.<language>.toml".
 /// @return false when the file is not named so
 bool SplitName(std::string_view iPath, VelString& oCatalog, VelString& oLanguage) {
@@ -65,12 +89,11 @@ bool SplitName(std::string_view iPath, VelString& oCatalog, VelString& oLanguage
 }  // namespace
 
 VelUnicodeString VelMsgCatalog::BuildMessage(const VelString& iCatalog, const VelString& iKey) {
-  const auto catalog = TheState().catalogs.find(iCatalog);
-  if (catalog == TheState().catalogs.end()) return {};
+  const Catalog catalog(iCatalog);
   for (VelString language = Language(); !language.IsEmpty(); language = WithoutRegion(language)) {
-    if (const auto* message = Find(catalog->second, language, iKey); message != nullptr) return *message;
+    if (const auto* message = catalog.Find(language, iKey); message != nullptr) return *message;
   }
-  const VelUnicodeString* message = Find(catalog->second, english, iKey);
+  const VelUnicodeString* message = catalog.Find(english, iKey);
   return message != nullptr ? *message : VelUnicodeString();
 }
 

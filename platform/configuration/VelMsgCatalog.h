@@ -13,7 +13,9 @@
 
 /// Messages by catalog and key, each in any number of languages. A language is named like a locale, "de" or "de_AT";
 /// what follows a '.' or '@' ("de_AT.UTF-8") is left out, '-' means '_', and case counts. "C", "POSIX" and the empty
-/// name mean English, "en". Messages stay until Clear, however many sessions begin and end.
+/// name mean English, "en". Messages stay until Clear, however many sessions begin and end. Beneath them, language by
+/// language, stands what a source of the host says of the configuration of that name while a session runs
+/// (VelIConfigurationSource).
 ///
 /// What cannot be loaded is an error on the trace channel "VelMsgCatalog". Thread: the application thread.
 class VEL_PLATFORM_API VelMsgCatalog {
@@ -44,7 +46,7 @@ class VEL_PLATFORM_API VelMsgCatalog {
   ///         files, which is a warning once per process
   static HRESULT LoadFile(const std::string& iPath);
 
-  /// Takes all messages out and goes back to the language of the environment.
+  /// Takes all messages out, but for those of the source, and goes back to the language of the environment.
   static void Clear();
 };
 

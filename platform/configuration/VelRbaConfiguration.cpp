@@ -30,6 +30,8 @@ HRESULT VelRbaConfiguration::RemoveConfiguration(const VelString& iConfiguration
 
 void VelRbaConfiguration::Clear() { VelConfigurationTables::Instance().Clear(); }
 
+void VelRbaConfiguration::ForgetSources() { VelConfigurationTables::Instance().ForgetSources(); }
+
 std::uint64_t VelRbaConfiguration::Generation() noexcept { return VelConfigurationTables::Instance().Generation(); }
 
 HRESULT VelRbaConfiguration::LoadFile(const std::string& iPath) {

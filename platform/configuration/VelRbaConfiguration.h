@@ -12,7 +12,8 @@
 #include "platform/base/VelString.h"
 
 /// The configurations of the process. They are filled in code, by files (docs/configuration.md), and by the platform
-/// session, whose share goes with it. Names, keys and values are taken byte for byte; case counts.
+/// session, whose share goes with it. Beneath them all stands what a source of the host says while a session runs
+/// (VelIConfigurationSource). Names, keys and values are taken byte for byte; case counts.
 ///
 /// What cannot be loaded is an error on the trace channel "VelRbaConfiguration". Thread: the application thread.
 class VEL_PLATFORM_API VelRbaConfiguration {
@@ -47,8 +48,12 @@ class VEL_PLATFORM_API VelRbaConfiguration {
   /// Takes everything out.
   static void Clear();
 
+  /// Has the source of configurations (VelIConfigurationSource) asked again, because what it would say has changed.
+  static void ForgetSources();
+
   /// @return a number that grows with each change of a value or of a parent, by which users know that what they have
-  ///         remembered is out of date; it never falls
+  ///         remembered is out of date; it never falls. A text that the source gave by language follows the language
+  ///         without a change.
   static std::uint64_t Generation() noexcept;
 
   /// Loads a configuration file, for longer than a session: as a whole or not at all. What it says overrides what was

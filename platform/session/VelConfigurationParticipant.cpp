@@ -5,6 +5,7 @@
 
 #include "platform/base/VelEnvironment.h"
 #include "platform/configuration/VelConfigurationLoader.h"
+#include "platform/configuration/VelConfigurationSources.h"
 #include "platform/configuration/VelConfigurationTables.h"
 #include "platform/session/VelInstalledShare.h"
 #include "platform/session/VelPlatformSession.h"
@@ -23,12 +24,20 @@ bool AddParticipant() {
 
 HRESULT Load(const std::string& iPath) { return VelConfigurationLoader(VelConfigurationOwner::Session).Load(iPath); }
 
+/// @return where a path of the options leads; one that is nowhere is left to who loads it, which says so
+std::string Located(const std::string& iPath) {
+  const std::string found = VelPlatformSession::Current()->Locate(iPath);
+  return found.empty() ? iPath : found;
+}
+
 }  // namespace
 
 HRESULT VelConfigurationParticipant::OnSessionStart(const VelPlatformOptions& iOptions) {
+  VelConfigurationTables::Instance().BeginSession();
   LoadInstallation();
   LoadEnvironment();
-  const HRESULT result = LoadOptions(iOptions.configurations);
+  HRESULT result = LoadOptions(iOptions.configurations);
+  if (SUCCEEDED(result)) result = AddShaderTypes(iOptions.shaderTypes);
   // A service that did not start is not ended either.
   if (FAILED(result)) OnSessionEnd();
   return result;
@@ -51,11 +60,19 @@ void VelConfigurationParticipant::LoadEnvironment() {
 
 HRESULT VelConfigurationParticipant::LoadOptions(const std::vector<std::string>& iConfigurations) {
   for (const std::string& configuration : iConfigurations) {
-    // One that is nowhere is left to the loader, which says so.
-    const std::string found = VelPlatformSession::Current()->Locate(configuration);
-    if (SUCCEEDED(Load(found.empty() ? configuration : found))) continue;
+    if (SUCCEEDED(Load(Located(configuration)))) continue;
     VelTraceHandle(channel).Error(VEL_HERE("platform/session/VelConfigurationParticipant"),
                                   "The session does not start without its configuration '%s'", configuration);
+    return E_FAIL;
+  }
+  return S_OK;
+}
+
+HRESULT VelConfigurationParticipant::AddShaderTypes(const std::vector<std::string>& iShaderTypes) {
+  for (const std::string& path : iShaderTypes) {
+    if (SUCCEEDED(VelConfigurationSources::Instance().AddPath(Located(path)))) continue;
+    VelTraceHandle(channel).Error(VEL_HERE("platform/session/VelConfigurationParticipant"),
+                                  "The session does not start without its shader types '%s'", path);
     return E_FAIL;
   }
   return S_OK;

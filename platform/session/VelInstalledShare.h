@@ -6,12 +6,14 @@
 
 #include <string>
 
-/// The way there starts where the library lies, so that an installation can be moved. Not exported.
+#include "platform/base/VelPlatformApi.h"
+
+/// The way there starts where the library lies, so that an installation can be moved, and so that a build tree is one.
 class VelInstalledShare {
  public:
   /// @param[in] iName a folder of share/velrsh, for instance "catalogs"
-  /// @return its path, empty when there is none, as in a build tree
-  static std::string FindFolder(const std::string& iName);
+  /// @return its path, empty when there is none
+  VEL_PLATFORM_API static std::string FindFolder(const std::string& iName);
 };
 
 #endif  // PLATFORM_SESSION_VELINSTALLEDSHARE_H

@@ -21,6 +21,11 @@ struct VelPlatformOptions {
   /// them what the installation and the environment bring. docs/configuration.md describes them.
   std::vector<std::string> configurations{};
 
+  /// Files of shader types, and folders whose ".toml" files are all read, for the host's source of configurations
+  /// (VelIConfigurationSource); docs/shader_types.md describes them. A faulty one ends the start of the session, and so
+  /// does any of them without a source.
+  std::vector<std::string> shaderTypes{};
+
   /// Where relative paths are looked for, and the libraries that a dictionary names without a folder.
   std::vector<std::string> searchFolders{};
 };
