@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The VelRshModel authors
+// SPDX-License-Identifier: Apache-2.0
+/// @file VelRmaFaults.cpp Words causes and puts them in order.
+#include "host/shadertypes/VelRmaFaults.h"
+
+#include <algorithm>
+#include <utility>
+
+void VelRmaFaults::Add(VelConfigurationPosition iPosition, std::string iCause) {
+  faults_.push_back({iPosition.line, iPosition.column, std::move(iCause)});
+}
+
+std::vector<VelConfigurationFault> VelRmaFaults::Take() {
+  std::stable_sort(faults_.begin(), faults_.end(),
+                   [](const VelConfigurationFault& iLeft, const VelConfigurationFault& iRight) {
+                     return std::pair(iLeft.line, iLeft.column) < std::pair(iRight.line, iRight.column);
+                   });
+  if (faults_.size() > limit) {
+    const std::size_t more = faults_.size() - limit;
+    faults_.resize(limit);
+    faults_.push_back({0, 0, "there are " + std::to_string(more) + " more faults in the file"});
+  }
+  return std::exchange(faults_, {});
+}
+
+std::string VelRmaFaults::Quote(std::string_view iText) {
+  constexpr std::size_t longest = 80;
+  std::size_t end = std::min(iText.size(), longest);
+  while (end < iText.size() && end > 0 && (static_cast<unsigned char>(iText[end]) & 0xC0U) == 0x80U) --end;
+  std::string text(iText.substr(0, end));
+  for (char& byte : text) {
+    if (static_cast<unsigned char>(byte) < 0x20U || byte == 0x7F) byte = '?';
+  }
+  return '\'' + text + (end < iText.size() ? "...'" : "'");
+}
+
+std::string VelRmaFaults::Describe(const VelConfigurationNode& iNode) {
+  switch (iNode.kind) {
+    case VelConfigurationNode::Kind::Table:
+      return "a table";
+    case VelConfigurationNode::Kind::Array:
+      return "an array";
+    case VelConfigurationNode::Kind::Text:
+      return "the text " + Quote(iNode.text);
+    case VelConfigurationNode::Kind::Integer:
+    case VelConfigurationNode::Kind::Real:
+      return "the number " + iNode.text;
+    case VelConfigurationNode::Kind::Boolean:
+    case VelConfigurationNode::Kind::Moment:
+      break;
+  }
+  return iNode.text;
+}
+
+std::string VelRmaFaults::Choice(std::span<const std::string_view> iWords) {
+  std::string text;
+  for (std::size_t i = 0; i < iWords.size(); ++i) {
+    if (i > 0) text += i + 1 == iWords.size() ? " or " : ", ";
+    text += iWords[i];
+  }
+  return text;
+}

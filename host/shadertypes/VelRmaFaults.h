@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The VelRshModel authors
+// SPDX-License-Identifier: Apache-2.0
+/// @file VelRmaFaults.h Collects what is wrong with a file of a shader type.
+#ifndef HOST_SHADERTYPES_VELRMAFAULTS_H
+#define HOST_SHADERTYPES_VELRMAFAULTS_H
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/configuration/VelConfigurationContent.h"
+#include "platform/configuration/VelConfigurationNode.h"
+
+/// All causes of one file, so that its author mends them at once, and how their texts are worded.
+class VelRmaFaults {
+ public:
+  /// So many are told of one file; the rest is counted.
+  static constexpr std::size_t limit = 20;
+
+  /// @param[in] iCause in English, made to follow the position in a message
+  void Add(VelConfigurationPosition iPosition, std::string iCause);
+
+  bool IsEmpty() const noexcept { return faults_.empty(); }
+
+  /// @return the faults in the order of the text, the last of which tells how many more there are
+  std::vector<VelConfigurationFault> Take();
+
+  /// @return a text between quotes, cut where it is long, with '?' for what is not to be printed
+  static std::string Quote(std::string_view iText);
+
+  /// @return what a node is, for instance "the text 'x'" or "an array"
+  static std::string Describe(const VelConfigurationNode& iNode);
+
+  /// @return "a, b or c"
+  static std::string Choice(std::span<const std::string_view> iWords);
+
+ private:
+  std::vector<VelConfigurationFault> faults_;
+};
+
+#endif  // HOST_SHADERTYPES_VELRMAFAULTS_H
