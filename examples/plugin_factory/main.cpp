@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
 /// @file main.cpp A host that lists the shader types there are, and creates, copies and upgrades a shader of one.
+#include <cstdint>
 #include <cstdio>
 
 #include "RenderingShader/VelRshModel.m/include/VelRshModelFactoryFeature.h"

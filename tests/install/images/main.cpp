@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
 /// @file main.cpp Has an image file made into pixels, and prints its size and its first pixel.
+#include <cstddef>
 #include <cstdio>
 
 #include "platform/images/VelPixelImage.h"
