@@ -4,7 +4,7 @@
 #
 # The commands that build and run: demo, test, bench.
 
-demo_program=first_shader
+demo_program=road_of_one_edit
 test_presets="release debug core clang asan"
 
 use_compiler_cache() {
@@ -23,7 +23,7 @@ demo_command() {
   expect_no_arguments "$@"
   set_up demo
   build_preset demo
-  "build/demo/bin/$demo_program"
+  "build/demo/bin/$demo_program" "build/demo/$demo_program"
 }
 
 test_command() {
