@@ -75,7 +75,7 @@ foreach(header IN LISTS vel_public_headers)
 endforeach()
 
 install(DIRECTORY catalogs/ DESTINATION "${vel_share}/catalogs" FILES_MATCHING PATTERN "*.feat")
-install(DIRECTORY share/velrsh/ DESTINATION "${vel_share}" OPTIONAL)
+install(DIRECTORY share/velrsh/ DESTINATION "${vel_share}")
 install(FILES LICENSE NOTICE DESTINATION "${vel_documentation}")
 
 set(vel_sanitized ${VEL_SANITIZE})
