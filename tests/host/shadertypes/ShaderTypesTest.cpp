@@ -37,7 +37,8 @@ void ShaderTypesTest::TearDown() {
 }
 
 HRESULT ShaderTypesTest::Start(VelPlatformOptions iOptions) {
-  for (const char* name : {"VelRshModel", "VelRshHost", "VelPlatformFiles", "VelPlatformDocuments"}) {
+  for (const char* name :
+       {"VelRshModel", "VelRshHost", "VelPlatformFiles", "VelPlatformDocuments", "VelPlatformImages"}) {
     iOptions.dictionaries.push_back(VEL_TEST_LIBRARY_FOLDER "/dictionaries/" + std::string(name) + ".dictionary");
   }
   for (const char* name : {"VelRmaCatalog.feat", "VelRmaMaterialCatalog.feat"}) {
