@@ -56,6 +56,9 @@ class VelConfigurationSources {
   /// @return true when there are some that were not there before
   bool List();
 
+  /// @return true while the source is at work, and answers are not those of later
+  bool IsAsking() const noexcept { return isAsking_; }
+
   /// @return what the source says of a configuration, null where it says nothing; until the next change
   const Configuration* Find(const VelString& iName);
 

@@ -22,7 +22,7 @@ const VelString* VelConfigurationTables::Find(const VelString& iConfiguration, c
   }
   if (VelConfigurationSources::Instance().List()) OnChange();
   const Answer answer = Search(iConfiguration, iKey);
-  if (!answer.isLasting) return answer.value;
+  if (!answer.isLasting || VelConfigurationSources::Instance().IsAsking()) return answer.value;
   if (memoSize_ >= memoLimit) {
     memo_ = {};
     memoSize_ = 0;

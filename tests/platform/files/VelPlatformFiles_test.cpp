@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/configuration/VelIConfigurationReader.h"
+#include "platform/configuration/VelIConfigurationTreeReader.h"
 #include "platform/objectmodeler/VelDictionary.h"
 #include "platform/objectmodeler/VelModule.h"
 #include "platform/objectmodeler/VelObject.h"
@@ -48,6 +49,7 @@ TEST_F(VelPlatformFilesDeathTest, Library_IsOpenedByTheFirstFile) {
 TEST_F(VelPlatformFilesTest, Grid_BindsTheReaderAndNothingElse) {
   const VelBaseUnknown_var hFiles = VelObject::Create("VelPlatformFiles", nullptr);
   EXPECT_TRUE(VelIConfigurationReader_var(hFiles));
+  EXPECT_TRUE(VelIConfigurationTreeReader_var(hFiles));
   EXPECT_EQ(VelQueryFramework("VelPlatformFiles", "VelIConfigurationReader"), "Platform");
   EXPECT_STREQ(VelIConfigurationReader_var(hFiles)->GetImpl()->ClassName(), "VelConfigurationReader");
 }
@@ -116,6 +118,18 @@ TEST_F(VelPlatformFilesTest, Session_LoadsFilesThroughTheDictionaryOfItsOptions)
   EXPECT_EQ(session.End(), S_OK);
   EXPECT_EQ(Value("A", "k"), "(none)");
   ASSERT_EQ(VelDictionary::LoadFile(dictionary), S_OK);
+}
+
+TEST_F(VelPlatformFilesTest, Trees_AreReadBehindTheDictionary) {
+  const VelIConfigurationTreeReader_var hReader(VelObject::Create("VelPlatformFiles", nullptr));
+  std::vector<VelConfigurationNode> nodes;
+  VelConfigurationFault fault;
+  EXPECT_EQ(hReader->ReadTree("a = [1]\n", nodes, fault), S_OK);
+  ASSERT_EQ(nodes.size(), 2U);
+  EXPECT_EQ(nodes[1].parent, 0U);
+  EXPECT_EQ(hReader->ReadTree("a = [\n", nodes, fault), E_FAIL);
+  EXPECT_EQ(nodes.size(), 2U);
+  EXPECT_NE(fault.line, 0U);
 }
 
 }  // namespace
