@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
-/// @file management_bench.cpp What it costs to create, copy and upgrade shaders, and to list their types.
+/// @file management_bench.cpp What it costs to create, copy and upgrade shaders, to plan upgrades, and to list types.
 #include <cstdint>
 #include <cstdlib>
 #include <string>
@@ -213,6 +213,35 @@ void UpgradeApart(benchmark::State& ioState) {
   CountParameters(ioState, ioState.range(0));
 }
 BENCHMARK(UpgradeApart)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMicrosecond);
+
+/// The upgrades of so many shaders are told, and none is made.
+void PlanAll(benchmark::State& ioState, const Scene& iScene) {
+  ++definition.version;
+  for (auto _ : ioState) {
+    for (const VelIRshShader_var& hShader : iScene.shaders) {
+      VelRshUpgradePlan plan;
+      Expect(iScene.Manager().PlanUpgrade(hShader.Get(), plan));
+      if (plan.rows.size() < parameterCount) std::abort();
+    }
+  }
+  CountParameters(ioState, ioState.range(0));
+}
+
+/// As UpgradeTree; the shaders below each one are stood in for.
+void PlanTree(benchmark::State& ioState) {
+  Scene scene;
+  scene.MakeTree(ioState.range(0));
+  PlanAll(ioState, scene);
+}
+BENCHMARK(PlanTree)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMicrosecond);
+
+/// As UpgradeApart.
+void PlanApart(benchmark::State& ioState) {
+  Scene scene;
+  for (std::int64_t i = 0; i < ioState.range(0); ++i) scene.shaders.push_back(scene.Create());
+  PlanAll(ioState, scene);
+}
+BENCHMARK(PlanApart)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMicrosecond);
 
 /// So many types are listed over and over.
 void ListTypes(benchmark::State& ioState) {

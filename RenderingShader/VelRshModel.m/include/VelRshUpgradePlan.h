@@ -19,7 +19,7 @@ struct VEL_RSH_MODEL_API VelRshUpgradePlan {
   bool changesShader = false;  ///< Whether UpgradeShader would touch the shader at all. Where not, there are no rows.
 
   /// First a stop; then what the shader will consist of, in that order, each parameter with its connection below it;
-  /// then what goes, in the order of before; then the values of connected shaders, nearest first.
+  /// then what goes, in the order of before; then the values of connected shaders, each shader before those behind it.
   std::vector<VelRshUpgradePlanRow> rows;
 
   /// @return what it is about, without a line end: "BasicMaterial from version 1 to 2", "BasicMaterial is of version 2

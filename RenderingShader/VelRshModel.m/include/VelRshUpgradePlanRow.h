@@ -30,7 +30,7 @@ struct VEL_RSH_MODEL_API VelRshUpgradePlanRow {
                      ///< where there was none, what a connected shader gives back. As Kept.
     Added,           ///< None of before takes part. `position`, `startUp`, `after`, `standard`.
     Retyped,         ///< The name stays with another start-up, and the value is lost. As Kept, and `formerStartUp`.
-    Dropped,         ///< None of today has the name. `formerPosition`, `formerStartUp`, `before`.
+    Dropped,         ///< None of its name is left. `formerPosition`, `formerStartUp`, `before`.
     ConnectionKept,  ///< The parameter is connected again to the very same `shader`. Positions.
     ConnectionLost,  ///< The parameter was connected to `shader`, and no parameter of today takes that over, or the
                      ///< upgrade stops before. `formerPosition`; `position` too where the parameter stays.

@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 /// @file VelRshShaderManager_PlanConnections_test.cpp What a plan tells of connections, and of the values that follow
 /// them.
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
 #include "platform/configuration/VelRbaConfiguration.h"
 #include "platform/materials/VelIRmaEditionMode.h"
 #include "tests/RenderingShader/management/fixtures/UpgradeTest.h"
@@ -153,6 +157,49 @@ TEST_F(VelRshShaderManagerPlanConnectionsTest, AShaderOfAnotherModule_StaysConne
   EXPECT_EQ(Add(hShader_, "void", "VelRmaVoid")->SetConnection(hOdd.Get()), S_OK);
   today_ = [](const VelIRshShader_var& iShader) { static_cast<void>(Add(iShader, "void", "VelRmaVoid")); };
   EXPECT_EQ(SentencesOf(Plan()), (Texts{"'void' stays", "'void' stays connected to odd"}));
+}
+
+/// What docs/shaders.md shows.
+TEST_F(VelRshShaderManagerPlanConnectionsTest, TheExamplesOfTheDocumentation_AreWhatPlansSay) {
+  for (const char* type : {"Varnish", "vel_phen_texture"}) {
+    EXPECT_TRUE(SUCCEEDED(VelRbaConfiguration::SetValue(type, "scale_u.Tag", "scale_u")));
+  }
+  First().types[0].name = "Varnish";
+  hShader_ = MakeShader("Varnish");
+  EXPECT_EQ(hShader_->SetVersion(1), S_OK);
+  const float colors[] = {0.8F, 0.7F, 0.6F, 1.0F, 1.0F, 1.0F, 1.0F, 1.0F};
+  const VelIRshShader_var hTexture = AddNode(hShader_);
+  const VelIRshParameter_var hScale = AddScalar(hTexture, "scale_u", 1.0F);
+  AddScalar(hShader_, "roughness", 0.25F);
+  const VelIRshParameter_var hMetallic = Add(hShader_, "metallic", "VelRmaScalar");
+  const VelIRshParameter_var hBase = Add(hShader_, "base", "VelRmaColor");
+  EXPECT_EQ(hBase->SetValue(VelRshValueSource(colors, 4)), S_OK);
+  EXPECT_EQ(hBase->SetConnection(hTexture.Get()), S_OK);
+  AddScalar(hShader_, "scale_u", 2.0F);
+  AddScalar(hShader_, "samples", 8.0F);
+  AddText(hShader_, "note", "matt");
+  AddScalar(hShader_, "sheen", 0.1F);
+  Set(hScale, 5.0F);
+  today_ = [&](const VelIRshShader_var& iShader) {
+    AddScalar(iShader, "roughness", 0.5F);
+    AddScalar(iShader, "metallic", 0.0F);
+    AddScalar(iShader, "coat", 0.75F);
+    EXPECT_EQ(Add(iShader, "base", "VelRmaColor")->SetValue(VelRshValueSource(colors + 4, 4)), S_OK);
+    AddScalar(iShader, "scale_u", 1.0F);
+    const std::int32_t samples = 16;
+    EXPECT_EQ(Add(iShader, "samples", "VelRmaInteger")->SetValue(&samples), S_OK);
+    AddText(iShader, "note", "gloss");
+  };
+  std::ifstream file(VEL_TEST_CATALOGS "/../docs/shaders.md");
+  const std::string page{std::istreambuf_iterator<char>(file), {}};
+  const VelRshUpgradePlan stopping = Plan();
+  EXPECT_NE(page.find("    " + std::string(stopping.rows[0].Text().View()) + "\n"), std::string::npos)
+      << stopping.Text().View();
+  Set(hMetallic, 0.0F);
+  std::string shown;
+  std::istringstream lines{std::string(Plan().Text().View())};
+  for (std::string line; std::getline(lines, line);) shown += "    " + line + "\n";
+  EXPECT_NE(page.find(shown), std::string::npos) << shown;
 }
 
 }  // namespace
