@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 /// @file VelRshShaderManager_PlanConnections_test.cpp What a plan tells of connections, and of the values that follow
 /// them.
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -9,6 +10,7 @@
 #include "platform/configuration/VelRbaConfiguration.h"
 #include "platform/materials/VelIRmaEditionMode.h"
 #include "tests/RenderingShader/management/fixtures/UpgradeTest.h"
+#include "tests/RenderingShader/parameters/fixtures/FakeParameterLayout.h"
 
 namespace {
 
@@ -157,6 +159,51 @@ TEST_F(VelRshShaderManagerPlanConnectionsTest, AShaderOfAnotherModule_StaysConne
   EXPECT_EQ(Add(hShader_, "void", "VelRmaVoid")->SetConnection(hOdd.Get()), S_OK);
   today_ = [](const VelIRshShader_var& iShader) { static_cast<void>(Add(iShader, "void", "VelRmaVoid")); };
   EXPECT_EQ(SentencesOf(Plan()), (Texts{"'void' stays", "'void' stays connected to odd"}));
+}
+
+TEST_F(VelRshShaderManagerPlanConnectionsTest, AValueThatTheHostSupplies_IsNoValueThatStands) {
+  FakeParameterLayouts layouts;
+  layouts.boolean = true;
+  EXPECT_TRUE(SUCCEEDED(VelRbaConfiguration::SetValue("Default", "flip.Tag", "flip_u")));
+  const VelIRshShader_var hNear = AddNode(hShader_, "near");
+  const VelIRshShader_var hFar = AddNode(hNear, "far");
+  static_cast<void>(Add(hNear, "flip", "VelRmaBoolean"));
+  Connect(hNear, "to far", hFar);
+  Connect(hShader_, "connected", hNear);
+  const bool is = true;
+  const bool isNot = false;
+  VelIRmaEditionMode::SetActivation(VelIRmaEditionMode::Mode::SilentPropagation, true);
+  EXPECT_EQ(Add(hFar, "flip", "VelRmaBoolean")->SetValue(&isNot), S_OK);
+  EXPECT_EQ(Add(hShader_, "flip", "VelRmaBoolean")->SetValue(&is), S_OK);
+  VelIRmaEditionMode::SetActivation(VelIRmaEditionMode::Mode::SilentPropagation, false);
+  today_ = [](const VelIRshShader_var& iShader) {
+    AddScalar(iShader, "connected", 1.0F);
+    static_cast<void>(Add(iShader, "flip", "VelRmaBoolean"));
+  };
+  EXPECT_EQ(Following(), Texts{"'flip' of far takes true instead of false"}) << "the one between reads as before";
+  EXPECT_EQ(Upgrade(), S_OK);
+  bool flip = false;
+  EXPECT_EQ(Find(hFar, "flip")->GetValue(&flip), S_OK);
+  EXPECT_TRUE(flip);
+}
+
+TEST_F(VelRshShaderManagerPlanConnectionsTest, AChainThatIsTooLong_IsCutWhereTheUpgradeCutsIt) {
+  VelIRmaEditionMode::SetActivation(VelIRmaEditionMode::Mode::SilentPropagation, true);
+  AddScalar(hShader_, "scale", 2.0F);
+  std::vector<VelIRshShader_var> chain{hShader_};
+  for (int i = 0; i < 300; ++i) {
+    chain.push_back(AddNode(chain.back()));
+    AddScalar(chain.back(), "scale", 5.0F);
+    Connect(chain[chain.size() - 2], "connected", chain.back());
+  }
+  VelIRmaEditionMode::SetActivation(VelIRmaEditionMode::Mode::SilentPropagation, false);
+  const std::size_t foretold = Following().size();
+  EXPECT_EQ(checks_.Messages(), Texts{"A value is not handed on to further shaders"});
+  EXPECT_EQ(Upgrade(), S_OK);
+  const auto follows = [](const VelIRshShader_var& iShader) { return ScalarOf(Find(iShader, "scale")) == 2.0F; };
+  EXPECT_EQ(static_cast<std::size_t>(std::count_if(chain.begin() + 1, chain.end(), follows)), foretold);
+  EXPECT_LT(foretold, 300U);
+  checks_.Clear();
 }
 
 /// What docs/shaders.md shows.
