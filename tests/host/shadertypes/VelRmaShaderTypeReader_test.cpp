@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 /// @file VelRmaShaderTypeReader_test.cpp What each key of a file does to shaders of its type.
 #include <array>
+#include <fstream>
+#include <iterator>
 
 #include "RenderingShader/VelRshModel.m/include/VelRshParameterServices.h"
 #include "RenderingShader/interfaces/VelIRshParameterDialog.h"
@@ -249,6 +251,25 @@ TEST_F(VelRmaShaderTypeReaderTest, EveryOption_GivesThePlainSet) {
     EXPECT_EQ(Manager().CreateShader(hContainer_, "Own", hShader.Receive(), option), S_OK);
     EXPECT_EQ(ParametersOf(hShader), Texts{"a: VelRmaScalar"});
   }
+}
+
+TEST_F(VelRmaShaderTypeReaderTest, TheExampleOfTheGuide_DoesWhatTheGuideSays) {
+  std::ifstream file(VEL_TEST_GUIDE);
+  const std::string guide{std::istreambuf_iterator<char>(file), {}};
+  const std::string begin = "```toml\n";
+  const std::size_t from = guide.find(begin) + begin.size();
+  WriteType("Varnish", guide.substr(from, guide.find("```", from) - from));
+  ASSERT_EQ(Start(), S_OK);
+  const VelIRshShader_var hShader = Create("Varnish");
+  EXPECT_EQ(TakeErrors(), Texts{});
+  EXPECT_EQ(ParametersOf(hShader), (Texts{"coat: VelRmaColor", "grain: VelRmaScalar"}));
+  EXPECT_EQ(ScalarOf(hShader, "grain"), 0.785398185F);
+  EXPECT_EQ(VelRshParameterServices::ComputeParameterSlot(*Find(hShader, "coat")), 5U);
+  EXPECT_EQ(Value("Varnish", "MappingScale.DefaultValue"), "1.5 1.5");
+  EXPECT_EQ(Value("Varnish", "MappingRotation.ParameterValue"), "grain");
+  VelMsgCatalog::SetLanguage("de");
+  EXPECT_EQ(DisplayName("Varnish"), "Lack");
+  EXPECT_EQ(LabelOf(Find(hShader, "coat").Get()), "Decklack");
 }
 
 }  // namespace
