@@ -49,17 +49,20 @@ class VEL_RSH_MODEL_API VelRshShaderManager : public VelCommand {
   /// @param[out] oShader with one reference for the caller; null on failure
   /// @param[in] iOption handed to the factory, whose result is not looked at
   /// @return S_OK; E_FAIL when an argument is missing, the type is unknown or the shader cannot be made; E_UNEXPECTED
-  ///         when the type has no factory any more
+  ///         for a type without factory, which no manager comes to by itself
   HRESULT CreateShader(const VelIContainer_var& iContainer, const VelString& iType, VelIRshShader** oShader,
                        unsigned char iOption);
 
-  /// Copies a shader, its parameters, their values and connections, and the shaders in its nodes, at most 256 deep. A
-  /// copy of "mia_material" is a "mia_phen_material". Text and matrix values are not copied, nor are version, usage,
-  /// output type and connections to shaders elsewhere.
+  /// Copies a shader, its parameters, their values and connections, and the shaders in its nodes. A copy of
+  /// "mia_material" is a "mia_phen_material". Text and matrix values are not copied, nor are version, usage, output type
+  /// and connections to shaders elsewhere. A node that cannot be copied, as one nested more than 256 deep, is left out,
+  /// and with it all connections to nodes of the shader above it, which is no failure.
   /// @param[out] oCopy with one reference for the caller; null on failure, unless it was the values that could not be
   ///             copied: then the copy with what it has by then
-  /// @return S_OK; E_FAIL when an argument is missing; E_NOINTERFACE when the shader cannot be made; otherwise why its
-  ///         type, a value or a connection could not be copied. A parameter without a value is such a failure.
+  /// @return S_OK; E_FAIL when an argument is missing; E_NOINTERFACE when the shader cannot be made; E_UNEXPECTED when
+  ///         name or type of a parameter cannot be read or the copy's parameters are not those of the source; otherwise
+  ///         why the type of the shader or a value could not be copied: a boolean, an integer, a scalar, a vector or a
+  ///         color without a value is such a failure
   virtual HRESULT CreateShaderCopy(const VelIContainer_var& iContainer, VelIRshShader* iShader, VelIRshShader** oCopy);
 
   /// Rebuilds a shader whose version is not the one of its type today. Parameters that have name and start-up in common

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
 /// @file VelRshShaderManager_CopyNodes_test.cpp Copies the nodes of a shader with it, and connects them again.
+#include <algorithm>
+
 #include "platform/configuration/VelRbaConfiguration.h"
 #include "tests/RenderingShader/management/fixtures/ShaderCopyTest.h"
 
@@ -131,16 +133,52 @@ TEST_F(VelRshShaderManagerCopyNodesTest, ANodesCopy_TakesMappingValuesOverWhenIt
   EXPECT_EQ(ScalarOf(Find(NodesOf(hCopy_)[0], "scale")), 1.0F) << "though it comes after the connection";
 }
 
-/// Counts the copies that go through its virtual entry.
+TEST_F(VelRshShaderManagerCopyNodesTest, AShaderThatIsTwoNodes_IsConnectedToTheCopyOfTheFirst) {
+  const VelIRshShader_var hNode = MakeShader("node");
+  const VelIRshParameter_var hConnected = Add(hSource_, "a", "VelRmaVoid");
+  EXPECT_EQ(hConnected->SetConnection(hNode.Get()), S_OK);
+  static_cast<void>(Odd(""));
+  odd_->shader.parameters = {hConnected.Get()};
+  odd_->shader.nodes = {hNode.Get(), hNode.Get()};
+  const VelIRshShader_var hOdd = VelTestOddities::CreateObject();
+  EXPECT_EQ(Manager().CreateShaderCopy(hTarget_, hOdd.Get(), hCopy_.Receive()), S_OK);
+  ASSERT_EQ(NodesOf(hCopy_).size(), 2U);
+  EXPECT_TRUE(IsSameObject(ConnectionOf(Find(hCopy_, "a")).Get(), NodesOf(hCopy_)[0].Get()));
+}
+
+TEST_F(VelRshShaderManagerCopyNodesTest, NodesThatCannotBeListed_CountAsNone) {
+  static_cast<void>(Odd(""));
+  odd_->shader.nodesCode = E_UNEXPECTED;
+  const VelIRshShader_var hOdd = VelTestOddities::CreateObject();
+  EXPECT_EQ(Manager().CreateShaderCopy(hTarget_, hOdd.Get(), hCopy_.Receive()), S_OK);
+  EXPECT_EQ(NodesOf(hCopy_).size(), 0U);
+}
+
+/// Notes the copies that go through its virtual entry.
 class CountingManager final : public VelRshShaderManager {
  public:
   HRESULT CreateShaderCopy(const VelIContainer_var& iContainer, VelIRshShader* iShader,
                            VelIRshShader** oCopy) override {
     ++count;
-    return VelRshShaderManager::CreateShaderCopy(iContainer, iShader, oCopy);
+    codes.push_back(VelRshShaderManager::CreateShaderCopy(iContainer, iShader, oCopy));
+    return codes.back();
   }
   int count = 0;
+  std::vector<HRESULT> codes;  ///< In the order in which the copies ended.
 };
+
+TEST_F(VelRshShaderManagerCopyNodesTest, AShaderNestedTooDeep_FailsWithoutACopy) {
+  VelIRshShader_var hDeepest = hSource_;
+  for (int depth = 2; depth <= 257; ++depth) hDeepest = AddNode(hDeepest);
+  auto* const manager = new CountingManager;
+  EXPECT_EQ(manager->CreateShaderCopy(hTarget_, hSource_.Get(), hCopy_.Receive()), S_OK);
+  ASSERT_EQ(manager->codes.size(), 257U);
+  EXPECT_EQ(manager->codes.front(), E_FAIL);
+  EXPECT_EQ(std::count(manager->codes.begin(), manager->codes.end(), S_OK), 256);
+  manager->EndLife();
+  manager->Release();
+  checks_.Clear();
+}
 
 TEST_F(VelRshShaderManagerCopyNodesTest, Nodes_GoThroughTheVirtualEntry) {
   static_cast<void>(AddNode(AddNode(hSource_)));

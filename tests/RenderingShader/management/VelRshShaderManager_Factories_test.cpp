@@ -169,6 +169,34 @@ TEST_F(VelRshShaderManagerFactoriesTest, ACopyOfTheManager_KnowsTheSameFactories
   EXPECT_EQ(List().types, Texts{"f"});
 }
 
+TEST_F(VelRshShaderManagerFactoriesTest, ACopyOfTheManager_KnowsTheTypesThatWereRead) {
+  First().Add("f");
+  EXPECT_EQ(List().types, Texts{"f"});
+  First().listCode = E_FAIL;
+  auto* const copy = new VelRshShaderManager(Manager());
+  auto* const assigned = new VelRshShaderManager(Manager());
+  *assigned = Manager();
+  for (VelRshShaderManager* manager : {copy, assigned}) {
+    VelListValVelString types;
+    VelListValVelUnicodeString names;
+    EXPECT_EQ(manager->ListAvailableShaders(0, "", types, names), S_OK);
+    EXPECT_EQ(types.Size(), 1);
+    manager->EndLife();
+    manager->Release();
+  }
+}
+
+TEST_F(VelRshShaderManagerFactoriesTest, AManagerAssignedToItself_KeepsItsFactories) {
+  First().Add("f");
+  EXPECT_EQ(List().types, Texts{"f"});
+  int ends = 0;
+  First().onEnd = [&] { ++ends; };
+  VelRshShaderManager& same = Manager();
+  Manager() = same;
+  EXPECT_EQ(ends, 0);
+  EXPECT_EQ(List().types, Texts{"f"});
+}
+
 /// Dictionary files of a test, which are unloaded at its end.
 class VelRshShaderManagerLibrariesTest : public ManagementTest {
  protected:

@@ -4,7 +4,8 @@
 #ifndef RENDERINGSHADER_VELRSHMODEL_M_SRC_MANAGEMENT_VELRSHCOPYDEPTH_H
 #define RENDERINGSHADER_VELRSHMODEL_M_SRC_MANAGEMENT_VELRSHCOPYDEPTH_H
 
-/// A shader that is being copied, as long as it lives; those in it nest. More than 256 are cut, with a check.
+/// Stands for one shader that is being copied, from its construction to its destruction: that of a shader inside it is
+/// made meanwhile. The 257th of them may not go on, which is a check.
 class VelRshCopyDepth {
  public:
   static constexpr int most = 256;

@@ -72,6 +72,7 @@ VelRshShaderManager::VelRshShaderManager(const VelRshShaderManager& iOther)
 }
 
 VelRshShaderManager& VelRshShaderManager::operator=(const VelRshShaderManager& iOther) {
+  if (this == &iOther) return *this;
   VelCommand::operator=(iOther);
   const VelListPtrVelBaseUnknown former = std::exchange(factories_, iOther.factories_);
   for (VelBaseUnknown* factory : factories_) {
