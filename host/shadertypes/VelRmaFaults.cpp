@@ -6,8 +6,21 @@
 #include <algorithm>
 #include <utility>
 
+#include "host/shadertypes/VelRmaNearestWord.h"
+
 void VelRmaFaults::Add(VelConfigurationPosition iPosition, std::string iCause) {
-  faults_.push_back({iPosition.line, iPosition.column, std::move(iCause)});
+  if (faults_.size() < capacity) {
+    faults_.push_back({iPosition.line, iPosition.column, std::move(iCause)});
+  } else {
+    ++more_;
+  }
+}
+
+void VelRmaFaults::AddUnknown(VelConfigurationPosition iPosition, std::string iCause, std::string_view iFound,
+                              std::span<const std::string_view> iWords) {
+  // To look for a near word is worth it only for what is told, and among words that somebody can know.
+  if (faults_.size() < capacity && iWords.size() < capacity) iCause += VelRmaNearestWord::Question(iFound, iWords);
+  Add(iPosition, std::move(iCause));
 }
 
 std::vector<VelConfigurationFault> VelRmaFaults::Take() {
@@ -16,7 +29,7 @@ std::vector<VelConfigurationFault> VelRmaFaults::Take() {
                      return std::pair(iLeft.line, iLeft.column) < std::pair(iRight.line, iRight.column);
                    });
   if (faults_.size() > limit) {
-    const std::size_t more = faults_.size() - limit;
+    const std::size_t more = faults_.size() - limit + std::exchange(more_, 0);
     faults_.resize(limit);
     faults_.push_back({0, 0, "there are " + std::to_string(more) + " more faults in the file"});
   }

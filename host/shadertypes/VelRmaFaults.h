@@ -22,6 +22,11 @@ class VelRmaFaults {
   /// @param[in] iCause in English, made to follow the position in a message
   void Add(VelConfigurationPosition iPosition, std::string iCause);
 
+  /// Adds a word that is not known, with the one that may be meant.
+  /// @param[in] iWords those that are known
+  void AddUnknown(VelConfigurationPosition iPosition, std::string iCause, std::string_view iFound,
+                  std::span<const std::string_view> iWords);
+
   bool IsEmpty() const noexcept { return faults_.empty(); }
 
   /// @return the faults in the order of the text, the last of which tells how many more there are
@@ -37,7 +42,11 @@ class VelRmaFaults {
   static std::string Choice(std::span<const std::string_view> iWords);
 
  private:
+  /// So many are kept to be put in order. A file of 4 MiB could have any number.
+  static constexpr std::size_t capacity = 1000;
+
   std::vector<VelConfigurationFault> faults_;
+  std::size_t more_ = 0;  ///< Those that are only counted.
 };
 
 #endif  // HOST_SHADERTYPES_VELRMAFAULTS_H

@@ -8,8 +8,6 @@
 #include <optional>
 #include <string>
 
-#include "host/shadertypes/VelRmaNearestWord.h"
-
 namespace {
 
 using Kind = VelConfigurationNode::Kind;
@@ -96,8 +94,7 @@ bool VelRmaMappingReader::Suits(const Row& iRow, const VelConfigurationNode& iNa
   for (const VelRmaShaderParameter& parameter : parameters_) known.push_back(parameter.name.View());
   const auto found = std::find(known.begin(), known.end(), iName.text);
   if (found == known.end()) {
-    faults_.Add(iName.position, "there is no parameter " + VelRmaFaults::Quote(iName.text) +
-                                    VelRmaNearestWord::Question(iName.text, known));
+    faults_.AddUnknown(iName.position, "there is no parameter " + VelRmaFaults::Quote(iName.text), iName.text, known);
     return false;
   }
   const VelString& startUp = parameters_[static_cast<std::size_t>(found - known.begin())].startUp;

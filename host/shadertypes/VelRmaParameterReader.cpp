@@ -11,7 +11,6 @@
 
 #include "host/shadertypes/VelRmaLabelReader.h"
 #include "host/shadertypes/VelRmaMappingReader.h"
-#include "host/shadertypes/VelRmaNearestWord.h"
 
 namespace {
 
@@ -89,9 +88,12 @@ void VelRmaParameterReader::ReadName() {
   parameter_.name = VelString(node.text);
 }
 
-std::string VelRmaParameterReader::NoStartUp(const VelConfigurationNode& iText) {
-  return "unknown start-up " + VelRmaFaults::Quote(iText.text) + "; expected " +
-         VelRmaFaults::Choice(VelRmaStartUp::Names()) + VelRmaNearestWord::Question(iText.text, VelRmaStartUp::Names());
+void VelRmaParameterReader::RefuseStartUp(const VelConfigurationNode& iText, VelRmaFaults& ioFaults) {
+  const auto names = VelRmaStartUp::Names();
+  ioFaults.AddUnknown(
+      iText.position,
+      "unknown start-up " + VelRmaFaults::Quote(iText.text) + "; expected " + VelRmaFaults::Choice(names), iText.text,
+      names);
 }
 
 /// A parameter without a value could not be copied, so that every one that can have a value needs it.
@@ -99,7 +101,7 @@ void VelRmaParameterReader::ReadDefault() {
   const auto type = table_.Find("type");
   if (!type || nodes_[*type].kind != Kind::Text) return;
   const VelRmaStartUp* const startUp = VelRmaStartUp::Find(nodes_[*type].text);
-  if (startUp == nullptr) return faults_.Add(nodes_[*type].position, NoStartUp(nodes_[*type]));
+  if (startUp == nullptr) return RefuseStartUp(nodes_[*type], faults_);
   const bool hasValue = startUp->form != VelRmaStartUp::Form::None;
   const auto value = hasValue ? table_.Require("default") : table_.Find("default");
   if (!value) return;
@@ -116,8 +118,7 @@ void VelRmaParameterReader::ReadTags() {
     if (node.kind != Kind::Text) {
       table_.Refuse("tags", inner);
     } else if (!IsOneOf(node.text, tagWords)) {
-      faults_.Add(node.position,
-                  "unknown tag " + VelRmaFaults::Quote(node.text) + VelRmaNearestWord::Question(node.text, tagWords));
+      faults_.AddUnknown(node.position, "unknown tag " + VelRmaFaults::Quote(node.text), node.text, tagWords);
     } else if (std::find(tags_.begin(), tags_.end(), node.text) != tags_.end()) {
       faults_.Add(node.position, "the tag " + VelRmaFaults::Quote(node.text) + " is there already");
     } else {
@@ -134,9 +135,10 @@ void VelRmaParameterReader::ReadSlot() {
   if (!slot) return;
   const VelConfigurationNode& node = nodes_[*slot];
   if (!IsOneOf(node.text, slotWords)) {
-    return faults_.Add(node.position, "unknown slot " + VelRmaFaults::Quote(node.text) + "; expected " +
-                                          VelRmaFaults::Choice(slotWords) +
-                                          VelRmaNearestWord::Question(node.text, slotWords));
+    return faults_.AddUnknown(
+        node.position,
+        "unknown slot " + VelRmaFaults::Quote(node.text) + "; expected " + VelRmaFaults::Choice(slotWords), node.text,
+        slotWords);
   }
   parameter_.slot = VelString(node.text);
 }

@@ -25,8 +25,8 @@ class VelRmaParameterReader {
   /// @return where the name stands
   VelConfigurationPosition NamePosition() const noexcept { return namePosition_; }
 
-  /// @return what is said of a text that is no start-up
-  static std::string NoStartUp(const VelConfigurationNode& iText);
+  /// Reports a text that is no start-up.
+  static void RefuseStartUp(const VelConfigurationNode& iText, VelRmaFaults& ioFaults);
 
  private:
   void ReadName();

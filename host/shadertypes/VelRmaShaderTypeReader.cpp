@@ -13,7 +13,6 @@
 
 #include "host/shadertypes/VelRmaLabelReader.h"
 #include "host/shadertypes/VelRmaMappingReader.h"
-#include "host/shadertypes/VelRmaNearestWord.h"
 #include "host/shadertypes/VelRmaParameterReader.h"
 #include "platform/configuration/VelRbaConfiguration.h"
 
@@ -73,7 +72,7 @@ void VelRmaShaderTypeReader::ReadHead(const VelRmaTable& iFile, const VelString&
   if (const auto output = iFile.Take("output", iFile.Require("output"), Kind::Text)) {
     const VelConfigurationNode& node = nodes_[*output];
     type_.outputType = VelString(node.text);
-    if (VelRmaStartUp::Find(node.text) == nullptr) faults_.Add(node.position, VelRmaParameterReader::NoStartUp(node));
+    if (VelRmaStartUp::Find(node.text) == nullptr) VelRmaParameterReader::RefuseStartUp(node, faults_);
   }
   const auto parent = iFile.Take("parent", iFile.Find("parent"), Kind::Text);
   if (parent && (nodes_[*parent].text.empty() || nodes_[*parent].text == iName.View())) {

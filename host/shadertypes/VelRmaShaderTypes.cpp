@@ -21,6 +21,16 @@ constexpr const char* pathVariable = "VEL_SHADER_TYPES_PATH";
 /// After the manager of shaders, which asks until then.
 constexpr int exitPriority = 4;
 
+/// @return true when two paths lead to one file
+bool AreSame(const std::string& iLeft, const std::string& iRight) {
+  if (iLeft == iRight) return true;
+  std::string left;
+  std::string right;
+  std::string cause;
+  return SUCCEEDED(VelSystemFile::CanonicalPath(iLeft, left, cause)) &&
+         SUCCEEDED(VelSystemFile::CanonicalPath(iRight, right, cause)) && left == right;
+}
+
 int ClearTypes(int) {
   VelRmaShaderTypes::Instance().Clear();
   return 0;
@@ -88,7 +98,7 @@ void VelRmaShaderTypes::ScanFile(const std::string& iPath) {
   Entry*& entry = byName_[name];
   if (entry == nullptr) entry = &entries_.emplace_back(Entry{.name = name});
   if (entry->files.empty()) present_.push_back(entry);
-  const auto isSame = [&](const File& iFile) { return iFile.path == iPath; };
+  const auto isSame = [&](const File& iFile) { return AreSame(iFile.path, iPath); };
   if (std::none_of(entry->files.begin(), entry->files.end(), isSame)) entry->files.push_back({iPath, {}, false});
 }
 
@@ -103,7 +113,7 @@ HRESULT VelRmaShaderTypes::AddPath(const std::string& iPath) {
     Entry& entry = *found->second;
     entry.isRead = false;
     Read(entry);
-    if (!entry.type || entry.source != file) result = E_FAIL;
+    if (!entry.type || !AreSame(entry.source, file)) result = E_FAIL;
   }
   return result;
 }

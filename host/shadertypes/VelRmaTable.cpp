@@ -6,19 +6,16 @@
 #include <algorithm>
 #include <vector>
 
-#include "host/shadertypes/VelRmaNearestWord.h"
-
 VelRmaTable::VelRmaTable(const VelRmaNodes& iNodes, std::size_t iTable, std::string_view iOf,
                          std::span<const VelRmaKey> iKeys, VelRmaFaults& ioFaults)
     : nodes_(iNodes), table_(iTable), keys_(iKeys), faults_(ioFaults) {
   std::vector<std::string_view> words;
   for (const VelRmaKey& key : iKeys) words.push_back(key.name);
+  const std::string expected = " of " + std::string(iOf) + "; expected " + VelRmaFaults::Choice(words);
   for (const std::size_t inner : iNodes.Inner(iTable)) {
     const std::string& name = iNodes[inner].name;
     if (std::find(words.begin(), words.end(), name) != words.end()) continue;
-    faults_.Add(iNodes[inner].key, "unknown key " + VelRmaFaults::Quote(name) + " of " + std::string(iOf) +
-                                       "; expected " + VelRmaFaults::Choice(words) +
-                                       VelRmaNearestWord::Question(name, words));
+    faults_.AddUnknown(iNodes[inner].key, "unknown key " + VelRmaFaults::Quote(name) + expected, name, words);
   }
 }
 

@@ -299,6 +299,17 @@ TEST_F(VelRmaShaderTypeReaderRefusalsTest, OfManyFaults_TheFirstTwentyAreTold) {
   EXPECT_EQ(errors.back(), "VelRmaConfiguredShaderFactory: types/Many.toml: there are 5 more faults in the file");
 }
 
+TEST_F(VelRmaShaderTypeReaderRefusalsTest, AnyNumberOfFaults_IsCounted) {
+  std::string text = Sound("Many");
+  for (int i = 0; i < 100000; ++i) text += "z" + std::to_string(i) + "=1\n";
+  WriteType("Many", text);
+  ASSERT_EQ(Start(), S_OK);
+  EXPECT_EQ(OwnTypes(), Texts{});
+  const Texts errors = TakeErrors();
+  ASSERT_EQ(errors.size(), 21U);
+  EXPECT_EQ(errors.back(), "VelRmaConfiguredShaderFactory: types/Many.toml: there are 99980 more faults in the file");
+}
+
 TEST_F(VelRmaShaderTypeReaderRefusalsTest, LongAndUnprintableTexts_AreCutInMessages) {
   WriteType("Cut", Sound("Cut", "\"" + std::string(100, 'k') + "\" = 1\n\"a\\u0007\" = 1\n"));
   ASSERT_EQ(Start(), S_OK);

@@ -77,6 +77,16 @@ TEST_F(VelRmaShaderTypesTest, ATypeThatIsThereAlready_IsRefusedWithTheNameOfTheO
   EXPECT_EQ(TakeErrors(), Texts{Channel("more/Own.toml: the type 'Own' is defined already by 'types/Own.toml'")});
 }
 
+TEST_F(VelRmaShaderTypesTest, AFileThatIsNamedTwice_IsNoOther) {
+  const std::string own = WriteType("Own", Sound("Own"));
+  std::filesystem::create_directory_symlink(folder_.Path("types"), folder_.Path("link"));
+  ::setenv("VEL_SHADER_TYPES_PATH",
+           (folder_.Path("types") + ":" + folder_.Path("types") + "/:" + folder_.Path("link")).c_str(), 1);
+  ASSERT_EQ(Start({.shaderTypes = {own, folder_.Path("link/Own.toml")}}), S_OK);
+  EXPECT_EQ(OwnTypes(), Texts{"Own"});
+  EXPECT_EQ(TakeErrors(), Texts{});
+}
+
 TEST_F(VelRmaShaderTypesTest, OfFilesOfOneName_TheFirstSoundOneCounts) {
   std::filesystem::create_directory(folder_.Path("more"));
   WriteType("Own", "type = \"Own\"\n");
