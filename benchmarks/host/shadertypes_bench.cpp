@@ -87,7 +87,7 @@ class Session {
 };
 
 /// From the start of a session to the list of all types: every file is read.
-void BM_ReadFiles(benchmark::State& ioState) {
+void ReadFiles(benchmark::State& ioState) {
   const TypeFiles files(ioState.range(0));
   for (auto _ : ioState) {
     const Session session;
@@ -95,20 +95,20 @@ void BM_ReadFiles(benchmark::State& ioState) {
   }
   ioState.SetItemsProcessed(ioState.iterations() * ioState.range(0));
 }
-BENCHMARK(BM_ReadFiles)->Arg(1)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(ReadFiles)->Arg(1)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
 
 /// The list again, when no file has changed.
-void BM_RescanUnchanged(benchmark::State& ioState) {
+void RescanUnchanged(benchmark::State& ioState) {
   const TypeFiles files(ioState.range(0));
   const Session session;
   Expect(Session::Rescan() >= ioState.range(0));
   for (auto _ : ioState) benchmark::DoNotOptimize(Session::Rescan());
   ioState.SetItemsProcessed(ioState.iterations() * ioState.range(0));
 }
-BENCHMARK(BM_RescanUnchanged)->Arg(1)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(RescanUnchanged)->Arg(1)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
 
 /// From the start of a session to the first answer of one type among many: its file alone is read.
-void BM_FirstLookUp(benchmark::State& ioState) {
+void FirstLookUp(benchmark::State& ioState) {
   const TypeFiles files(ioState.range(0));
   for (auto _ : ioState) {
     const Session session;
@@ -116,10 +116,10 @@ void BM_FirstLookUp(benchmark::State& ioState) {
     Expect(SUCCEEDED(VelRbaConfiguration::GetHierarchicalValue("Bench0", "dpi.Tag", tag)));
   }
 }
-BENCHMARK(BM_FirstLookUp)->Arg(1)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(FirstLookUp)->Arg(1)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
 
 /// A new shader of a shipped type.
-void BM_Create(benchmark::State& ioState, const char* iType) {
+void Create(benchmark::State& ioState, const char* iType) {
   const Session session;
   VelIContainer_var hContainer = Session::MakeContainer();
   int made = 0;
@@ -133,14 +133,14 @@ void BM_Create(benchmark::State& ioState, const char* iType) {
     ioState.ResumeTiming();
   }
 }
-BENCHMARK_CAPTURE(BM_Create, BasicMaterial, "BasicMaterial")->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(BM_Create, CarPaintG2, "CarPaintG2")->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(BM_Create, CustomShader, "CustomShader")->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(BM_Create, MPM_surface, "MPM_surface")->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(BM_Create, mia_material, "mia_material")->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(BM_Create, mia_phen_material, "mia_phen_material")->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(BM_Create, vel_phen_bump, "vel_phen_bump")->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(BM_Create, vel_phen_scalar, "vel_phen_scalar")->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(BM_Create, vel_phen_texture, "vel_phen_texture")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Create, BasicMaterial, "BasicMaterial")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Create, CarPaintG2, "CarPaintG2")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Create, CustomShader, "CustomShader")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Create, MpmSurface, "MPM_surface")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Create, mia_material, "mia_material")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Create, mia_phen_material, "mia_phen_material")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Create, vel_phen_bump, "vel_phen_bump")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Create, vel_phen_scalar, "vel_phen_scalar")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Create, vel_phen_texture, "vel_phen_texture")->Unit(benchmark::kMicrosecond);
 
 }  // namespace
