@@ -54,9 +54,9 @@ class VEL_RSH_MODEL_API VelRshShaderManager : public VelCommand {
                        unsigned char iOption);
 
   /// Copies a shader, its parameters, their values and connections, and the shaders in its nodes. A copy of
-  /// "mia_material" is a "mia_phen_material". Text and matrix values are not copied, nor are version, usage, output type
-  /// and connections to shaders elsewhere. A node that cannot be copied, as one nested more than 256 deep, is left out,
-  /// and with it all connections to nodes of the shader above it, which is no failure.
+  /// "mia_material" is a "mia_phen_material". Text and matrix values are not copied, nor are version, usage, output
+  /// type and connections to shaders elsewhere. A node that cannot be copied, as one nested more than 256 deep, is left
+  /// out, and with it all connections to nodes of the shader above it, which is no failure.
   /// @param[out] oCopy with one reference for the caller; null on failure, unless it was the values that could not be
   ///             copied: then the copy with what it has by then
   /// @return S_OK; E_FAIL when an argument is missing; E_NOINTERFACE when the shader cannot be made; E_UNEXPECTED when
@@ -67,20 +67,23 @@ class VEL_RSH_MODEL_API VelRshShaderManager : public VelCommand {
 
   /// Rebuilds a shader whose version is not the one of its type today. Parameters that have name and start-up in common
   /// with one of the old keep its value (texts and matrices take the default) and its connection; others go.
-  /// @return S_OK, also when the versions are equal; E_FAIL when the shader is null, its type unknown, or no copy of it
-  ///         can be made; otherwise why version, new parameters or values could not be had: E_UNEXPECTED when name or
-  ///         start-up of an old parameter cannot be read. When the factory fails to add the new parameters, a copy of
-  ///         the shader stays in the container, as the only place of the old values.
+  /// @return S_OK, also when the versions are equal; E_FAIL when the shader is null, its type unknown, no copy of it
+  /// can
+  ///         be made, or, with the new parameters in place, the copy is no shader; otherwise why version, new
+  ///         parameters or values could not be had: E_UNEXPECTED when name or start-up of an old parameter cannot be
+  ///         read. When the factory fails to add the new parameters, a copy of the shader stays in the container, as
+  ///         the only place of the old values.
   HRESULT UpgradeShader(VelIRshShader* iShader);
 
   /// Tells what UpgradeShader would do, without doing it: the shader, its container and the shaders connected to it are
-  /// read only, and nothing is traced but the call; a check that what follows would raise is raised. The factory fills
-  /// a shader of the same type, version, usage and output type in a container of its own; one that looks at anything
-  /// else can make the upgrade differ, and so can whoever writes to the shader while it is upgraded: a listener, or the
-  /// appearance of the material above it.
+  /// read only, and nothing is traced but the call, and the types where nobody has needed them before; a check that
+  /// what follows would raise is raised. The factory fills a shader of the same type, version, usage and output type in
+  /// a container of its own. One that looks at anything else can make the upgrade differ, and one that connects
+  /// parameters to shaders that it has not made writes to those. Nor is foreseen who writes to the shader while it is
+  /// upgraded, a listener or the appearance of the material above it, and a document that cannot be written.
   /// @param[out] oPlan replaced; holds as long as shader, connected shaders, factory and configuration stay as they are
   /// @return S_OK, also where the plan tells that the upgrade would fail; E_FAIL when the shader is null; E_NOINTERFACE
-  ///         when no shader can be made for the factory to fill: then the plan knows the versions only
+  ///         when no shader can be made for the factory to fill: then only type and versions of the plan hold
   HRESULT PlanUpgrade(VelIRshShader* iShader, VelRshUpgradePlan& oPlan);
 
   static const VelMetaClass& MetaObject() noexcept;

@@ -21,9 +21,9 @@ struct VEL_RSH_MODEL_API VelRshUpgradePlanRow {
   /// common they pair in order. What each kind fills in beside itself and `parameter` stands behind it.
   enum class Kind {
     Stops,  ///< The upgrade ends here with `code`: from this parameter on no value is carried over, and no
-            ///< connection at all. `parameter` is empty where it has no name; `formerPosition` is 0 where it is
-            ///< the factory that fails, which leaves every value behind. At most one, the first of all.
-    Kept,   ///< The value stays and is today's default. Positions, `startUp`, the three values.
+            ///< connection at all. `formerStartUp` is empty where its name or type cannot be read; `formerPosition` is
+            ///< 0 where it is the factory that fails, which leaves every value behind. At most one, the first of all.
+    Kept,             ///< The value stays and is today's default. Positions, `startUp`, the three values.
     KeptOverDefault,  ///< The value stays, and today's default is another. Which default the version of before had is
                       ///< not known: this tells new defaults and edited values alike. As Kept.
     Replaced,        ///< The parameter stays, its value does not: a text, a matrix, what lies behind a stop, a document
@@ -34,8 +34,8 @@ struct VEL_RSH_MODEL_API VelRshUpgradePlanRow {
     ConnectionKept,  ///< The parameter is connected again to the very same `shader`. Positions.
     ConnectionLost,  ///< The parameter was connected to `shader`, and no parameter of today takes that over, or the
                      ///< upgrade stops before. `formerPosition`; `position` too where the parameter stays.
-    ConnectionMade,  ///< Today's version itself connects the parameter, to a new shader of the type `shaderType`.
-                     ///< `position`; `shader` is empty: it is not there yet.
+    ConnectionMade,  ///< Today's version itself connects the parameter, to a shader of the type `shaderType`.
+                     ///< `position`; `shader` is empty for a new one, not there yet.
     MappingTaken     ///< Another shader, `shader`, is connected to this one, if need be through others, and its
                      ///< parameter follows by its tag: `before` and `after`, `startUp`, and `position` in that shader.
   };

@@ -73,6 +73,29 @@ TEST_F(VelRshShaderManagerPlanConnectionsTest, Connections_AreKeptLostAndMade) {
   EXPECT_EQ(plan.rows[7].shaderType, "anew");
 }
 
+TEST_F(VelRshShaderManagerPlanConnectionsTest, AShaderThatWasThereBefore_IsToldWhereTodaysVersionConnectsToIt) {
+  const VelIRshShader_var hThere = MakeShader("there");
+  today_ = [&](const VelIRshShader_var& iShader) { Connect(iShader, "made", hThere); };
+  const VelRshUpgradePlan plan = Plan();
+  EXPECT_EQ(SentencesOf(plan), (Texts{"'made' is new, with 1", "'made' is connected to a there"}));
+  EXPECT_TRUE(IsSameObject(plan.rows[1].shader.Get(), hThere.Get()));
+}
+
+TEST_F(VelRshShaderManagerPlanConnectionsTest, AConnectedShader_CanBePlannedIntoThePlanThatKeepsIt) {
+  {
+    const VelIRshShader_var hNode = AddNode(hShader_, "mine");
+    EXPECT_EQ(hNode->SetVersion(1), S_OK);
+    AddScalar(hNode, "inner", 3.0F);
+    Connect(hShader_, "connected", hNode);
+  }
+  VelRshUpgradePlan plan = Plan();
+  const auto connected = std::ranges::find(plan.rows, Kind::ConnectionKept, &VelRshUpgradePlanRow::kind);
+  ASSERT_NE(connected, plan.rows.end());
+  EXPECT_EQ(Manager().PlanUpgrade(connected->shader.Get(), plan), S_OK);
+  EXPECT_EQ(plan.Heading(), "mine from version 1 to 2");
+  EXPECT_EQ(std::ranges::count(plan.rows, Kind::Dropped, &VelRshUpgradePlanRow::kind), 1);
+}
+
 TEST_F(VelRshShaderManagerPlanConnectionsTest, ConnectedShaders_AreToldWithTheValuesThatTheyTakeOver) {
   const VelIRshShader_var hNode = AddNode(hShader_, "node");
   AddScalar(hNode, "not tagged", 8.0F);

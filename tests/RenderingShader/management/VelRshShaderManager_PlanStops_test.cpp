@@ -135,6 +135,44 @@ TEST_F(VelRshShaderManagerPlanStopsTest, AParameterWithoutAName_EndsThePassBefor
                    "'b' loses 2 and takes 10", "'a' keeps 1; its default is 10", "parameter 2 goes"}));
 }
 
+TEST_F(VelRshShaderManagerPlanStopsTest, TheSentenceOfAStop_TellsWhatCannotBeRead) {
+  odd_.emplace(VEL_TEST_LIBRARY_FOLDER);
+  static_cast<void>(Add(hShader_, "odd", "VelRmaScalar"));
+  odd_->parameters["odd"].onGetType = [](VelString&) { return E_FAIL; };
+  EXPECT_EQ(SentencesOf(Plan())[0],
+            "The upgrade stops with E_UNEXPECTED at 'odd', whose name or type cannot be read: no value is carried over "
+            "from there on, and no connection");
+}
+
+TEST_F(VelRshShaderManagerPlanStopsTest, AnEmptyName_IsAName) {
+  static_cast<void>(Add(hShader_, "", "VelRmaScalar"));
+  today_ = [](const VelIRshShader_var& iShader) { AddScalar(iShader, "", 10.0F); };
+  EXPECT_EQ(
+      SentencesOf(Plan())[0],
+      "The upgrade stops with E_FAIL at parameter 1, whose value cannot be carried over: no value is carried over "
+      "from there on, and no connection");
+}
+
+TEST_F(VelRshShaderManagerPlanStopsTest, ParametersOfTodayWithoutAName_TakeNoPart) {
+  const auto appendNameless = [](const VelIRshShader_var& iShader) {
+    VelIContainer_var hContainer;
+    EXPECT_EQ(VelISpecObject_var(iShader)->GetContainer(hContainer.Receive()), S_OK);
+    EXPECT_EQ(iShader->AppendParameter(VelIRshParameter_var(MakeIn(hContainer, "VelRmaScalar")).Get()), S_OK);
+  };
+  AddScalar(hShader_, "a", 1.0F);
+  appendNameless(hShader_);
+  today_ = [&](const VelIRshShader_var& iShader) {
+    appendNameless(iShader);
+    AddScalar(iShader, "a", 10.0F);
+  };
+  EXPECT_EQ(SentencesOf(Plan()),
+            (Texts{"The upgrade stops with E_UNEXPECTED at parameter 2, whose name or type cannot be read: no value is "
+                   "carried over from there on, and no connection",
+                   "parameter 1 is new", "'a' keeps 1; its default is 10", "parameter 2 goes"}));
+  EXPECT_EQ(Upgrade(), E_UNEXPECTED);
+  EXPECT_EQ(Scalars(), (std::vector<float>{-1.0F, 1.0F}));
+}
+
 TEST_F(VelRshShaderManagerPlanStopsTest, AValueThatCannotBeReadOrWritten_StopsThePlanAsTheUpgrade) {
   const struct {
     HRESULT name;

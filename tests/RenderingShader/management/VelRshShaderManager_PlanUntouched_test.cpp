@@ -128,8 +128,8 @@ TEST_F(VelRshShaderManagerPlanUntouchedTest, NothingIsTraced_ButTheCall) {
   EXPECT_EQ(Manager().PlanUpgrade(nullptr, plan), E_FAIL);
   char address[32];
   std::snprintf(address, sizeof(address), "%" PRIxPTR, reinterpret_cast<std::uintptr_t>(hShader_.Get()));
-  EXPECT_EQ(traces_.Texts(), (Texts{"(VelRshShaderManager::PlanUpgrade) iShader=" + std::string(address) + "\n",
-                                    "(VelRshShaderManager::PlanUpgrade) iShader=0\n"}));
+  EXPECT_EQ(Told(), (Texts{"4 (VelRshShaderManager::PlanUpgrade) iShader=" + std::string(address) + "\n",
+                           "4 (VelRshShaderManager::PlanUpgrade) iShader=0\n"}));
   EXPECT_TRUE(scope.Entries().empty());
 }
 

@@ -161,6 +161,19 @@ TEST_F(VelRshShaderManagerPlanTest, Documents_AreKeptAndWithoutOneTheDefaultIsTa
   CloseContainer();
 }
 
+TEST_F(VelRshShaderManagerPlanTest, ADefaultDocumentOfTheSameName_IsAnotherOne) {
+  const FakeDocumentBindings bindings;
+  const VelIPLMDmtDocument_var hBefore = FakeDocument::Create();
+  const VelIPLMDmtDocument_var hToday = FakeDocument::Create();
+  EXPECT_EQ(Add(hShader_, "texture", "VelRmaTexture")->SetValue(hBefore.Get()), S_OK);
+  today_ = [&](const VelIRshShader_var& iShader) {
+    EXPECT_EQ(Add(iShader, "texture", "VelRmaTexture")->SetValue(hToday.Get()), S_OK);
+  };
+  EXPECT_EQ(SentencesOf(Plan()), Texts{"'texture' keeps document \"wood.png\"; its default is document \"wood.png\""});
+  hShader_ = nullptr;
+  CloseContainer();
+}
+
 TEST_F(VelRshShaderManagerPlanTest, StartUpsThatOnlyTheContainerKnows_AreFoundAndNobodyKnowsTheirValue) {
   ASSERT_EQ(VelICatalogManager_var(hContainer_)->LoadCatalog(VEL_TEST_MANAGEMENT_CATALOG), S_OK);
   AddForeign(hShader_, hContainer_);

@@ -9,7 +9,7 @@
 #include "RenderingShader/VelRshModel.m/src/management/VelRshCarriedValue.h"
 #include "RenderingShader/VelRshModel.m/src/management/VelRshCopyDepth.h"
 #include "RenderingShader/VelRshModel.m/src/services/VelRshComponentList.h"
-#include "platform/featuremodeler/VelISpecObject.h"
+#include "RenderingShader/VelRshModel.m/src/services/VelRshContainerOf.h"
 
 namespace {
 
@@ -24,13 +24,6 @@ struct Described {
 bool Describe(const VelIRshParameter_var& iParameter, Described& oDescribed) {
   return iParameter && SUCCEEDED(iParameter->GetName(oDescribed.name)) &&
          SUCCEEDED(iParameter->GetType(oDescribed.type));
-}
-
-VelIContainer_var ContainerOf(VelIRshShader& iShader) {
-  const VelISpecObject_var hFeature(&iShader);
-  VelIContainer_var hContainer;
-  if (!hFeature || FAILED(hFeature->GetContainer(hContainer.Receive()))) return nullptr;
-  return hContainer;
 }
 
 HRESULT CopyValues(const Parameters& iSources, VelIRshShader& ioTarget, VelIContainer& ioContainer) {
@@ -122,7 +115,7 @@ HRESULT VelRshShaderManager::CopyShaderParameters(VelIRshShader* iSource, VelIRs
                                                   const VelListPtrVelBaseUnknown* iSourceSubShaders,
                                                   const VelListPtrVelBaseUnknown* iTargetSubShaders) {
   if (iSource == nullptr || iTarget == nullptr) return E_FAIL;
-  const VelIContainer_var hContainer = ContainerOf(*iTarget);
+  const VelIContainer_var hContainer = VelRshContainerOf(*iTarget);
   if (!hContainer) return E_UNEXPECTED;
   const VelRshReaderParameterCollection collection;
   VEL_RETURN_IF_FAILED(CopyValues(collection(*iSource), *iTarget, *hContainer));

@@ -69,6 +69,8 @@ HRESULT VelRshShaderManager::UpgradeShader(VelIRshShader* iShader) {
 
 HRESULT VelRshShaderManager::PlanUpgrade(VelIRshShader* iShader, VelRshUpgradePlan& oPlan) {
   velRshShaderManagerTrace.Print(4, "(VelRshShaderManager::PlanUpgrade) iShader=%x\n", iShader);
+  // The shader may be one that only the plan of before still keeps.
+  const VelIRshShader_var hShader(iShader);
   oPlan = {};
   VelIRshShaderFactory* factory = nullptr;
   oPlan.result = FindUpgrade(iShader, oPlan, &factory);

@@ -32,9 +32,10 @@ std::string StopOf(const Row& iRow) {
         "stays in its container",
         code);
   }
-  if (iRow.parameter.IsEmpty()) {
-    return VelFormat::ToText("The upgrade stops with %s at parameter %d, whose name or type cannot be read: %s", code,
-                             iRow.formerPosition, rest);
+  // What can be read has a type.
+  if (iRow.formerStartUp.IsEmpty()) {
+    return VelFormat::ToText("The upgrade stops with %s at %s, whose name or type cannot be read: %s", code,
+                             NameOf(iRow), rest);
   }
   return VelFormat::ToText("The upgrade stops with %s at %s, whose value cannot be carried over: %s", code,
                            NameOf(iRow), rest);
@@ -69,7 +70,7 @@ std::string SentenceOf(const Row& iRow) {
     case Row::Kind::ConnectionLost:
       return NameOf(iRow) + " loses its connection to " + TypeOf(iRow);
     case Row::Kind::ConnectionMade:
-      return NameOf(iRow) + " is connected to a new " + TypeOf(iRow);
+      return NameOf(iRow) + " is connected to a" + (iRow.shader ? " " : " new ") + TypeOf(iRow);
     case Row::Kind::MappingTaken:
       return NameOf(iRow) + " of " + TypeOf(iRow) + With(" takes ", iRow.after) + With(" instead of ", iRow.before);
   }

@@ -21,11 +21,12 @@ VelString TypeOf(const VelIRshShader_var& iShader) {
 
 int PositionOf(const std::optional<std::size_t>& iPlace) { return iPlace ? static_cast<int>(*iPlace) + 1 : 0; }
 
-Kind KindOfPair(const VelRshUpgradePlanRow& iRow) {
-  // Nobody can tell whether it is the same.
-  if (VelRshValueCopy::KindOf(iRow.startUp) == ValueKind::Unknown) return Kind::Replaced;
-  if (iRow.after != iRow.before) return Kind::Replaced;
-  return iRow.after == iRow.standard ? Kind::Kept : Kind::KeptOverDefault;
+bool HoldTheSameDocument(VelIRshParameter& iLeft, VelIRshParameter& iRight) {
+  VelBaseUnknown_var hLeft;
+  VelBaseUnknown_var hRight;
+  static_cast<void>(iLeft.GetValue(hLeft.Receive()));
+  static_cast<void>(iRight.GetValue(hRight.Receive()));
+  return hLeft && hRight ? hLeft->IsEqual(hRight.Get()) : !hLeft && !hRight;
 }
 
 }  // namespace
@@ -51,14 +52,14 @@ HRESULT VelRshUpgradePlanner::Run(VelIRshShaderFactory& ioFactory) {
 }
 
 /// Before anything is carried over: the defaults are what stands there now.
-void VelRshUpgradePlanner::Read(VelRshUpgradeTransfer& ioTransfer) {
+void VelRshUpgradePlanner::Read(const VelRshUpgradeTransfer& iTransfer) {
   const auto read = [](const VelRshUpgradeTransfer::Parameter& iParameter) {
     return Told{VelRshValueCopy::TextOf(iParameter.startUp, *iParameter.hParameter), std::nullopt, nullptr};
   };
-  transfer_ = &ioTransfer;
-  for (const auto& parameter : ioTransfer.Old()) old_.push_back(read(parameter));
-  for (const auto& parameter : ioTransfer.New()) new_.push_back(read(parameter));
-  for (const Step& step : ioTransfer.Steps()) {
+  transfer_ = &iTransfer;
+  for (const auto& parameter : iTransfer.Old()) old_.push_back(read(parameter));
+  for (const auto& parameter : iTransfer.New()) new_.push_back(read(parameter));
+  for (const Step& step : iTransfer.Steps()) {
     old_[step.old].partner = step.next;
     new_[step.next].partner = step.old;
     new_[step.next].step = &step;
@@ -119,7 +120,7 @@ void VelRshUpgradePlanner::AddStop(bool iIsFactory) {
   if (const std::optional<std::size_t> place = transfer_->StoppedAt(); place && !iIsFactory) {
     const VelRshUpgradeTransfer::Parameter& old = transfer_->Old()[*place];
     row.parameter = old.name;
-    row.formerStartUp = old.startUp;
+    if (old.isDescribed) row.formerStartUp = old.startUp;
     row.formerPosition = PositionOf(place);
   }
   plan_.rows.push_back(std::move(row));
@@ -128,8 +129,22 @@ void VelRshUpgradePlanner::AddStop(bool iIsFactory) {
 void VelRshUpgradePlanner::AddParameter(std::size_t iNext) {
   const std::optional<std::size_t> old = new_[iNext].partner;
   Row row = MakeRow(old ? Kind::Retyped : Kind::Added, old, iNext);
-  if (new_[iNext].step != nullptr) row.kind = KindOfPair(row);
+  if (new_[iNext].step != nullptr) row.kind = KindOfSuccession(row, iNext);
   plan_.rows.push_back(std::move(row));
+}
+
+VelRshUpgradePlanRow::Kind VelRshUpgradePlanner::KindOfSuccession(const Row& iRow, std::size_t iNext) const {
+  const ValueKind kind = VelRshValueCopy::KindOf(iRow.startUp);
+  // Of a value of an unknown kind nobody can tell whether it is the same.
+  if (kind == ValueKind::Unknown || iRow.after != iRow.before) return Kind::Replaced;
+  if (iRow.after != iRow.standard) return Kind::KeptOverDefault;
+  if (kind != ValueKind::Document) return Kind::Kept;
+  // Two documents may have one name. The rehearsal links none, so today's parameter still holds its default.
+  const Step& step = *new_[iNext].step;
+  const bool isDefault =
+      HoldTheSameDocument(*transfer_->Old()[step.old].hParameter, *transfer_->New()[iNext].hParameter);
+  if (isDefault) return Kind::Kept;
+  return step.isCarried ? Kind::KeptOverDefault : Kind::Replaced;
 }
 
 bool VelRshUpgradePlanner::IsConnectionKept(std::size_t iNext) const {
@@ -151,6 +166,7 @@ void VelRshUpgradePlanner::AddConnections(std::size_t iNext) {
   if (!hMade) return;
   Row row = MakeRow(Kind::ConnectionMade, old, iNext);
   row.shaderType = TypeOf(hMade);
+  if (!rehearsal_.Holds(*hMade)) row.shader = hMade;
   plan_.rows.push_back(std::move(row));
 }
 

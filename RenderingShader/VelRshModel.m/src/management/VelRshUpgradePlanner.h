@@ -34,18 +34,20 @@ class VelRshUpgradePlanner {
     const Step* step = nullptr;  ///< Null where the partner has nothing but the name in common, and without one.
   };
 
-  void Read(VelRshUpgradeTransfer& ioTransfer);
+  void Read(const VelRshUpgradeTransfer& iTransfer);
   void PairByName();
   void AddStop(bool iIsFactory);
   void AddParameter(std::size_t iNext);
   void AddConnections(std::size_t iNext);
   void AddDropped(std::size_t iOld);
-  void AddLostConnection(std::size_t iOld);
   void AddMapping();
   bool IsConnectionKept(std::size_t iNext) const;
 
   /// @return a row about a parameter of today, one of before or both
   Row MakeRow(Row::Kind iKind, std::optional<std::size_t> iOld, std::optional<std::size_t> iNext) const;
+
+  /// @return what becomes of the value of a parameter that takes over from one of before
+  Row::Kind KindOfSuccession(const Row& iRow, std::size_t iNext) const;
 
   /// @return the value that a parameter of today will have
   VelUnicodeString ValueAfter(std::size_t iNext) const;

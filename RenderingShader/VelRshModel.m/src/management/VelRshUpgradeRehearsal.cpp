@@ -13,8 +13,8 @@
 #include "RenderingShader/VelRshModel.m/src/model/VelRshShaderFeature.h"
 #include "RenderingShader/VelRshModel.m/src/model/VelRshTagRecord.h"
 #include "RenderingShader/VelRshModel.m/src/services/VelRshAttribute.h"
+#include "RenderingShader/VelRshModel.m/src/services/VelRshContainerOf.h"
 #include "platform/featuremodeler/LifeCycleObject.h"
-#include "platform/featuremodeler/VelISpecObject.h"
 #include "platform/materials/VelIRmaEditionMode.h"
 
 namespace {
@@ -55,18 +55,6 @@ const Following* FindFollowing(VelIRshParameter& iParameter, const VelString& iS
   return record != nullptr && record->Tags() == 0 ? nullptr : following;
 }
 
-VelIContainer_var ContainerOf(VelIRshShader& iShader) {
-  const VelISpecObject_var hFeature(&iShader);
-  VelIContainer_var hContainer;
-  if (!hFeature || FAILED(hFeature->GetContainer(hContainer.Receive()))) return nullptr;
-  return hContainer;
-}
-
-void Remove(const VelIRshShader_var& iShader) {
-  const LifeCycleObject_var hLife(iShader);
-  if (hLife) static_cast<void>(hLife->remove());
-}
-
 /// A factory may look at what a shader says of itself.
 void Describe(VelIRshShader& iFrom, VelIRshShader& ioTo) {
   std::uint32_t number = 0;
@@ -79,7 +67,7 @@ void Describe(VelIRshShader& iFrom, VelIRshShader& ioTo) {
 }  // namespace
 
 VelRshUpgradeRehearsal::VelRshUpgradeRehearsal(VelIRshShader& iShader, const VelString& iType) : real_(iShader) {
-  const VelIContainer_var hOwn = ContainerOf(iShader);
+  const VelIContainer_var hOwn = VelRshContainerOf(iShader);
   if (hOwn) hContainer_ = VelIContainer::CreateLike(*hOwn);
   if (!hContainer_) return;
   factory_.emplace(*hContainer_);
@@ -89,8 +77,13 @@ VelRshUpgradeRehearsal::VelRshUpgradeRehearsal(VelIRshShader& iShader, const Vel
 
 /// What is removed lets go of the documents that a factory linked; what is closed with its container would not.
 VelRshUpgradeRehearsal::~VelRshUpgradeRehearsal() {
-  Remove(hShader_);
-  for (const StandIn& standIn : standIns_) Remove(standIn.hStandIn);
+  const LifeCycleObject_var hLife(hShader_);
+  if (hLife) static_cast<void>(hLife->remove());
+}
+
+bool VelRshUpgradeRehearsal::Holds(VelIRshShader& iShader) const {
+  const VelIContainer_var hContainer = VelRshContainerOf(iShader);
+  return hContainer && hContainer->IsEqual(hContainer_.Get());
 }
 
 HRESULT VelRshUpgradeRehearsal::Carry(const VelString& iStartUp, VelIRshParameter& iOld, VelIRshParameter& ioNew) {
@@ -130,6 +123,7 @@ void VelRshUpgradeRehearsal::Furnish(std::size_t iStandIn) {
     VelIRshParameter_var hMade;
     if (FAILED(hStandIn->AddParameter(name, startUp, hMade.Receive()))) continue;
     if (following != nullptr) {
+      // A value that the host supplies is none that stands.
       const VelRshAttribute value(hParameter.Get(), following->key);
       if (value.IsValuated()) static_cast<void>(VelRshCarryValue(startUp, *hParameter, *hMade));
       standIns_[iStandIn].followers.push_back({hParameter, hMade, position});

@@ -14,8 +14,8 @@
 #include "platform/featuremodeler/VelIContainer.h"
 
 /// The shaders connected to the one to be upgraded are stood in for, with whatever of them a value can follow, so that
-/// the component's own events decide what follows. Nothing is written to the real ones, and no document is linked.
-/// Traces are muted by whoever makes it.
+/// the component's own events decide what follows. Nothing is written to the real ones, and none of the shader's
+/// documents is linked. Traces are muted by whoever makes it.
 class VelRshUpgradeRehearsal final : public VelRshUpgradeStage {
  public:
   /// A parameter that may follow, and the one that stands in for it.
@@ -38,6 +38,9 @@ class VelRshUpgradeRehearsal final : public VelRshUpgradeStage {
   /// @return the shader to try on, which has the type and what else the real one says of itself, but no parameters;
   ///         empty where it cannot be made
   const VelIRshShader_var& Shader() const noexcept { return hShader_; }
+
+  /// @return true for a shader that was made for the rehearsal, false for one that somebody else has
+  bool Holds(VelIRshShader& iShader) const;
 
   /// A document is read only.
   HRESULT Carry(const VelString& iStartUp, VelIRshParameter& iOld, VelIRshParameter& ioNew) override;

@@ -12,8 +12,8 @@
 #include "RenderingShader/VelRshModel.m/src/management/VelRshUpgradeStage.h"
 
 /// Each parameter of before, in order, is followed by the first of today that has its name and start-up and is still
-/// free; what finds none is left out. An upgrade performs this on the shader itself, a plan on a shader of its own, so
-/// that the two cannot differ.
+/// free; what finds none is left out. An upgrade performs this on the shader itself, a plan on a shader of its own:
+/// both decide alike.
 class VelRshUpgradeTransfer {
  public:
   using Parameters = VelRshReaderParameterCollection::Parameters;
