@@ -17,8 +17,9 @@
 
 namespace {
 
+/// From this form of material on, textures are scaled by the size of the material.
 constexpr std::uint32_t materialVersion = 418;
-constexpr double width = 200.0;
+constexpr double width = 200.0;  // Millimetres.
 constexpr double height = 100.0;
 
 VelIRenderingMaterial_var MakeMaterial(VelIContainer& ioContainer) {

@@ -4,9 +4,12 @@
 #include "examples/road_of_one_edit/RoadPage.h"
 
 #include <cstdint>
+#include <cstdio>
 #include <fstream>
 #include <utility>
 
+#include "RenderingShader/VelRshModel.m/include/VelRshParameterServices.h"
+#include "RenderingShader/VelRshModel.m/include/VelRshReaderParameterCollection.h"
 #include "platform/images/VelPixelImage.h"
 #include "platform/images/VelRbaImageFiles.h"
 #include "platform/materials/VelIRmaAppearanceCache.h"
@@ -52,12 +55,29 @@ std::string Block(const std::vector<std::string>& iLines) {
   return block + "</pre>\n";
 }
 
-std::string Caption(std::uint32_t iSlot, const VelPixelImage& iImage) {
-  return "channel " + std::to_string(iSlot) + ", " + std::to_string(iImage.GetWidth()) + " x " +
-         std::to_string(iImage.GetHeight()) + " pixels";
+/// @return the name of the parameter that feeds a channel; "?" when there is none
+std::string FeederOf(const VelIRenderingMaterial_var& iMaterial, std::uint32_t iSlot) {
+  VelBaseUnknown_var hCarried;
+  static_cast<void>(iMaterial->GetShader(hCarried.Receive()));
+  const VelIRshShader_var hShader(hCarried);
+  if (!hShader) return "?";
+  for (const VelIRshParameter_var& hParameter : VelRshReaderParameterCollection()(*hShader)) {
+    VelString name;
+    const bool isFeeder = VelRshParameterServices::ComputeParameterSlot(*hParameter) == iSlot;
+    if (isFeeder && SUCCEEDED(hParameter->GetName(name))) return name.CString();
+  }
+  return "?";
 }
 
-/// Calls with the number and the image of each channel that has one, until a call says false.
+/// A channel of a material that has a picture.
+struct Channel {
+  std::uint32_t slot;
+  std::string caption;  ///< Number, parameter and size.
+  std::string path;     ///< Of the file that the picture is of.
+  VelPixelImage& image;
+};
+
+/// Calls with each channel that has a picture, until a call says false.
 /// @return whether none did; false for a material that keeps no pictures, too
 template <class Visit>
 bool VisitChannels(const VelIRenderingMaterial_var& iMaterial, const Visit& iVisit) {
@@ -67,7 +87,12 @@ bool VisitChannels(const VelIRenderingMaterial_var& iMaterial, const Visit& iVis
     VelPixelImage* image = nullptr;
     if (FAILED(hCache->GetImage(slot, &image)) || image == nullptr) continue;
     const auto hImage = VelBaseUnknown_var::Adopt(image);
-    if (!iVisit(*hCache, slot, *image)) return false;
+    VelUnicodeString path;
+    static_cast<void>(hCache->GetPath(slot, path));
+    const std::string caption = "channel " + std::to_string(slot) + ", " + FeederOf(iMaterial, slot) + ", " +
+                                std::to_string(image->GetWidth()) + " x " + std::to_string(image->GetHeight()) +
+                                " pixels";
+    if (!iVisit(Channel{slot, caption, std::string(path.View()), *image})) return false;
   }
   return true;
 }
@@ -79,13 +104,15 @@ RoadPage::RoadPage(std::string iFolder) : folder_(std::move(iFolder)) {}
 bool RoadPage::Add(const std::string& iTitle, const std::string& iName, const std::vector<std::string>& iTree,
                    const std::vector<std::string>& iRoad, const VelIRenderingMaterial_var& iMaterial) {
   body_ += "<h2>" + Escaped(iTitle) + "</h2>\n";
-  const auto write = [&](VelIRmaAppearanceCache&, std::uint32_t iSlot, VelPixelImage& iImage) {
-    const std::string file = iName + "-channel-" + std::to_string(iSlot) + '.' + VelRbaImageFiles::ExtensionFor(iImage);
+  const auto write = [&](const Channel& iChannel) {
+    const std::string file =
+        iName + "-channel-" + std::to_string(iChannel.slot) + '.' + VelRbaImageFiles::ExtensionFor(iChannel.image);
     const std::string path = folder_ + '/' + file;
-    if (FAILED(VelRbaImageFiles::Write(&iImage, VelUnicodeString(path)))) return false;
+    if (FAILED(VelRbaImageFiles::Write(&iChannel.image, VelUnicodeString(path)))) return false;
     files_.push_back(path);
+    const std::string caption = Escaped(iChannel.caption);
     body_ +=
-        "<figure><img src=\"" + file + "\" alt=\"\"><figcaption>" + Caption(iSlot, iImage) + "</figcaption></figure>\n";
+        "<figure><img src=\"" + file + "\" alt=\"" + caption + "\"><figcaption>" + caption + "</figcaption></figure>\n";
     return true;
   };
   if (!VisitChannels(iMaterial, write)) return false;
@@ -95,10 +122,8 @@ bool RoadPage::Add(const std::string& iTitle, const std::string& iName, const st
 
 std::vector<std::string> RoadPage::Channels(const VelIRenderingMaterial_var& iMaterial) {
   std::vector<std::string> lines;
-  VisitChannels(iMaterial, [&](VelIRmaAppearanceCache& iCache, std::uint32_t iSlot, const VelPixelImage& iImage) {
-    VelUnicodeString path;
-    static_cast<void>(iCache.GetPath(iSlot, path));
-    lines.push_back(Caption(iSlot, iImage) + ": " + std::string(path.View()));
+  VisitChannels(iMaterial, [&](const Channel& iChannel) {
+    lines.push_back(iChannel.caption + ": " + iChannel.path);
     return true;
   });
   return lines;
@@ -109,7 +134,10 @@ bool RoadPage::Write() {
   std::ofstream page(path);
   page << pageBegin << body_ << "</body>\n</html>\n";
   page.close();
-  if (!page) return false;
+  if (!page) {
+    std::fprintf(stderr, "'%s' cannot be written\n", path.c_str());
+    return false;
+  }
   files_.push_back(path);
   return true;
 }

@@ -24,10 +24,12 @@ class RoadPage {
   bool Add(const std::string& iTitle, const std::string& iName, const std::vector<std::string>& iTree,
            const std::vector<std::string>& iRoad, const VelIRenderingMaterial_var& iMaterial);
 
-  /// @return a line for each channel of a material that has a picture: its number, its size in pixels, its file
+  /// @return a line for each channel of a material that has a picture: its number, the parameter that feeds it, its
+  /// size
+  ///         in pixels, its file
   static std::vector<std::string> Channels(const VelIRenderingMaterial_var& iMaterial);
 
-  /// Writes the page. @return false when it cannot be written
+  /// Writes the page. @return false, after a line on the standard error stream, when it cannot be written
   bool Write();
 
   /// @return the files that were written, in order, the page last

@@ -3,6 +3,7 @@
 /// @file RoadUpgrade.cpp Asks the shader manager for the plan of an upgrade and for the upgrade itself.
 #include "examples/road_of_one_edit/RoadUpgrade.h"
 
+#include <cstdio>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -38,10 +39,14 @@ RoadUpgrade::RoadUpgrade(std::string iVersions, std::string iTypes)
     : versions_(std::move(iVersions)), types_(std::move(iTypes)) {}
 
 bool RoadUpgrade::Publish(const std::string& iVersion) const {
+  const fs::path from = fs::path(versions_) / (std::string(type) + '.' + iVersion + ".toml");
+  const fs::path to = fs::path(types_) / (std::string(type) + ".toml");
   std::error_code error;
   fs::create_directories(types_, error);
-  return fs::copy_file(fs::path(versions_) / (std::string(type) + '.' + iVersion + ".toml"),
-                       fs::path(types_) / (std::string(type) + ".toml"), fs::copy_options::overwrite_existing, error);
+  if (!error) fs::copy_file(from, to, fs::copy_options::overwrite_existing, error);
+  if (error)
+    std::fprintf(stderr, "'%s' cannot be copied to '%s': %s\n", from.c_str(), to.c_str(), error.message().c_str());
+  return !error;
 }
 
 bool RoadUpgrade::Make(const VelIContainer_var& iContainer) {

@@ -20,6 +20,7 @@ class RoadUpgrade {
 
   /// Puts a version of the type in place.
   /// @param[in] iVersion "before" or "after"
+  /// @return false, after a line on the standard error stream, when the file cannot be copied
   bool Publish(const std::string& iVersion) const;
 
   /// Makes a shader of the type as it is now, and gives it values of its own and, as its dye, a texture shader.

@@ -18,8 +18,9 @@ class VEL_PLATFORM_API VelRbaImageFiles {
   ///         for bytes, "exr" for floats
   static const char* ExtensionFor(const VelPixelImage& iImage) noexcept;
 
-  /// Writes an image as a whole file: whoever opens it meanwhile sees what was there before. What fails is an error on
-  /// the trace channel "VelRbaImageFiles" that names path and cause.
+  /// Writes an image as a whole file: whoever opens it meanwhile sees what was there before. It is for whoever may
+  /// read new files of the process. What fails is an error on the trace channel "VelRbaImageFiles" that names path and
+  /// cause.
   /// @param[in] iImage null is refused
   /// @param[in] iPath ends in the extension that ExtensionFor tells, in letters of either case; its folder is there
   /// @return S_OK; E_INVALIDARG when the image is null or the extension another one; E_FAIL without provider, which is

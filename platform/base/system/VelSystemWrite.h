@@ -20,6 +20,9 @@ class VelSystemWrite {
   ///         there before stays
   VEL_PLATFORM_API static HRESULT ReplaceFile(const std::string& iPath, std::string_view iBytes, std::string& oCause);
 
+  /// As ReplaceFile, but the file is for whoever the process lets read and write new files (its creation mask).
+  VEL_PLATFORM_API static HRESULT PublishFile(const std::string& iPath, std::string_view iBytes, std::string& oCause);
+
   /// Makes a folder for its owner alone; the folder around it has to be there.
   /// @return S_OK; S_FALSE when there is a folder already; E_INVALIDARG; E_FAIL
   VEL_PLATFORM_API static HRESULT MakeFolder(const std::string& iPath, std::string& oCause);

@@ -17,7 +17,7 @@ HRESULT VelImageWriter::Write(VelPixelImage* iImage, const VelUnicodeString& iPa
   std::string cause;
   HRESULT result =
       isBytes ? VelPngEncoder::Encode(*iImage, bytes, cause) : VelExrEncoder::Encode(*iImage, bytes, cause);
-  if (SUCCEEDED(result)) result = VelSystemWrite::ReplaceFile(std::string(iPath.View()), bytes, cause);
+  if (SUCCEEDED(result)) result = VelSystemWrite::PublishFile(std::string(iPath.View()), bytes, cause);
   if (SUCCEEDED(result)) return S_OK;
   VelTraceHandle("VelRbaImageFiles")
       .Error(VEL_HERE("platform/images/services/VelImageWriter"), "'%s' is not written: %s", iPath, cause);

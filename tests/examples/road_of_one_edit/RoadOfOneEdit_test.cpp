@@ -345,8 +345,9 @@ TEST_F(RoadOfOneEditTest, ThePage_HoldsEachPictureAsTheCacheHasIt) {
   }
   std::ifstream file(page.Files().back());
   const std::string text{std::istreambuf_iterator<char>(file), {}};
-  for (const char* part : {"<h2>A &lt;title&gt;</h2>", "<img src=\"first-channel-5.png\"", "channel 5, 192 x 96 pixels",
-                           "<pre>the tree\n</pre>", "<pre>1 us  a -&gt; b\n</pre>", "</html>\n"}) {
+  for (const char* part : {"<h2>A &lt;title&gt;</h2>", "<img src=\"first-channel-5.png\"",
+                           "alt=\"channel 5, default_slot_diffuse_color, 192 x 96 pixels\"", "<pre>the tree\n</pre>",
+                           "<pre>1 us  a -&gt; b\n</pre>", "</html>\n"}) {
     EXPECT_NE(text.find(part), std::string::npos) << part;
   }
 }

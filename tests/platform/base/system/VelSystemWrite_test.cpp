@@ -47,6 +47,17 @@ TEST_F(VelSystemWriteTest, ReplaceFile_WritesANewOneForItsOwnerAlone) {
   EXPECT_EQ(CountEntries(), 1U) << "nothing is left beside it";
 }
 
+TEST_F(VelSystemWriteTest, PublishFile_WritesForWhomTheMaskLetsIn) {
+  const mode_t before = ::umask(0027);
+  const std::string path = folder_.Write("old", "a long content");
+  EXPECT_EQ(VelSystemWrite::PublishFile(path, "new", cause_), S_OK);
+  EXPECT_EQ(ContentOf(path), "new");
+  EXPECT_EQ(ModeOf(path), 0640U);
+  EXPECT_EQ(::umask(before), 0027U) << "the mask stays as it was";
+  EXPECT_EQ(VelSystemWrite::PublishFile(folder_.Path("nowhere/file"), "x", cause_), E_FAIL);
+  EXPECT_EQ(CountEntries(), 1U) << "nothing is left beside it";
+}
+
 TEST_F(VelSystemWriteTest, ReplaceFile_ReplacesWhatWasThere) {
   const std::string path = folder_.Write("old", "a long content");
   EXPECT_EQ(VelSystemWrite::ReplaceFile(path, "", cause_), S_OK);

@@ -3,6 +3,8 @@
 /// @file VelRbaImageFiles_test.cpp Images written into files: they read back as they were, and refusals leave no file.
 #include "platform/images/VelRbaImageFiles.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <array>
 #include <filesystem>
@@ -71,6 +73,13 @@ TEST_F(VelRbaImageFilesTest, Write_OverAFile_ReplacesIt) {
   const std::string path = folder_.Write("old.png", "what was there");
   EXPECT_EQ(Write(Bytes(), path), S_OK);
   ExpectToReadBack(Bytes(), path);
+}
+
+TEST_F(VelRbaImageFilesTest, Write_LetsOthersReadAsFarAsTheMaskDoes) {
+  const mode_t before = ::umask(0022);
+  EXPECT_EQ(Write(Bytes(), folder_.Path("a.png")), S_OK);
+  ::umask(before);
+  EXPECT_EQ(fs::status(folder_.Path("a.png")).permissions(), fs::perms{0644});
 }
 
 TEST_F(VelRbaImageFilesTest, Write_OfAnotherExtension_IsRefusedAndSaysWhichIsExpected) {
