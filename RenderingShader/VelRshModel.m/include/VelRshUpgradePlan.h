@@ -23,7 +23,8 @@ struct VEL_RSH_MODEL_API VelRshUpgradePlan {
   std::vector<VelRshUpgradePlanRow> rows;
 
   /// @return what it is about, without a line end: "BasicMaterial from version 1 to 2", "BasicMaterial is of version 2
-  ///         already", "BasicMaterial cannot be upgraded: E_FAIL"
+  ///         already", "BasicMaterial cannot be upgraded: E_FAIL"; "No shader has been planned" of one that was not
+  ///         made
   VelUnicodeString Heading() const;
 
   /// @return the heading, and below it the text of each row after two blanks; each line with its end

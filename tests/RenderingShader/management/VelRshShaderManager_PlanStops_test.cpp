@@ -35,6 +35,10 @@ TEST_F(VelRshShaderManagerPlanStopsTest, NoShader_IsAFailureAndLeavesNoOldPlan) 
   EXPECT_EQ(plan.Heading(), "The shader cannot be upgraded: E_FAIL");
 }
 
+TEST_F(VelRshShaderManagerPlanStopsTest, APlanThatWasNotMade_SaysSo) {
+  EXPECT_EQ(VelRshUpgradePlan().Text(), "No shader has been planned\n");
+}
+
 TEST_F(VelRshShaderManagerPlanStopsTest, EqualVersions_ChangeNothing) {
   EXPECT_EQ(hShader_->SetVersion(2), S_OK);
   ExpectNoChange(hShader_, S_OK, "mine is of version 2 already");

@@ -7,6 +7,7 @@
 #include "platform/base/VelFormat.h"
 
 VelUnicodeString VelRshUpgradePlan::Heading() const {
+  if (type.IsEmpty() && SUCCEEDED(result)) return "No shader has been planned";
   const std::string name = type.IsEmpty() ? "The shader" : VelRshValueText::Escape(type.View());
   if (changesShader) return VelUnicodeString(VelFormat::ToText("%s from version %u to %u", name, from, to));
   if (SUCCEEDED(result)) return VelUnicodeString(VelFormat::ToText("%s is of version %u already", name, to));
