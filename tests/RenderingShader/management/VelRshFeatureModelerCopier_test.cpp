@@ -394,4 +394,16 @@ TEST_F(VelRshFeatureModelerCopierTest, OneCopier_CopiesAgainAndAgainAlsoIntoTheS
   EXPECT_EQ(hTarget_->CountFeatures(), 0);
 }
 
+TEST_F(VelRshFeatureModelerCopierTest, AConnectionThatCannotBeMade_IsNoFailure) {
+  const VelIRshShader_var hNode = MakeShader("node");
+  Odd("odd").connection = hNode.Get();
+  static_cast<void>(Add(hSource_, "odd", "VelRmaScalar"));
+  Connect(hSource_, "after", hNode);
+  const VelIRshShader_var hCopy = Copy();
+  ASSERT_TRUE(hCopy);
+  EXPECT_EQ(std::count(odd_->notes.begin(), odd_->notes.end(), "connect odd"), 1);
+  EXPECT_TRUE(ConnectionOf(Find(hCopy, "after")));
+  EXPECT_EQ(TakeChecks(), Texts{});
+}
+
 }  // namespace

@@ -146,6 +146,16 @@ TEST_F(VelRshShaderManagerCopyNodesTest, AShaderThatIsTwoNodes_IsConnectedToTheC
   EXPECT_TRUE(IsSameObject(ConnectionOf(Find(hCopy_, "a")).Get(), NodesOf(hCopy_)[0].Get()));
 }
 
+TEST_F(VelRshShaderManagerCopyNodesTest, AConnectionThatCannotBeMade_IsNoFailure) {
+  const VelIRshShader_var hNode = AddNode(hSource_, "node");
+  Odd("odd").connection = hNode.Get();
+  static_cast<void>(Add(hSource_, "odd", "VelRmaScalar"));
+  Connect("after", hNode);
+  EXPECT_EQ(Copy(), S_OK);
+  EXPECT_EQ(std::count(odd_->notes.begin(), odd_->notes.end(), "connect odd"), 1);
+  EXPECT_TRUE(ConnectionOf(Find(hCopy_, "after")));
+}
+
 TEST_F(VelRshShaderManagerCopyNodesTest, NodesThatCannotBeListed_CountAsNone) {
   static_cast<void>(Odd(""));
   odd_->shader.nodesCode = E_UNEXPECTED;

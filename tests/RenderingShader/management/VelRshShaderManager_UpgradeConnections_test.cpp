@@ -69,4 +69,19 @@ TEST_F(VelRshShaderManagerUpgradeConnectionsTest, ConnectedShaders_TakeOverTheVa
   EXPECT_EQ(ScalarOf(hNodeScale), 2.0F) << "the connection has the node follow again";
 }
 
+TEST_F(VelRshShaderManagerUpgradeConnectionsTest, AConnectionThatCannotBeMade_IsNoFailure) {
+  const VelIRshShader_var hNode = AddNode(hShader_, "node");
+  odd_.emplace(VEL_TEST_LIBRARY_FOLDER);
+  odd_->parameters["odd"].connection = hNode.Get();
+  today_ = [](const VelIRshShader_var& iShader) {
+    static_cast<void>(Add(iShader, "odd", "VelRmaScalar"));
+    AddText(iShader, "after", "today");
+  };
+  static_cast<void>(Add(hShader_, "odd", "VelRmaScalar"));
+  EXPECT_EQ(AddText(hShader_, "after", "before")->SetConnection(hNode.Get()), S_OK);
+  EXPECT_EQ(Upgrade(), S_OK);
+  EXPECT_EQ(odd_->notes.back(), "connect odd");
+  EXPECT_TRUE(IsSameObject(ConnectionOf(Find(hShader_, "after")).Get(), hNode.Get()));
+}
+
 }  // namespace
