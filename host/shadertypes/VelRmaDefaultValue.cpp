@@ -82,7 +82,8 @@ std::vector<float> ReadReals(const VelRmaStartUp& iStartUp, const VelRmaNodes& i
   }
   std::vector<float> reals;
   for (const std::size_t number : numbers) {
-    const auto real = VelRmaDefaultValue::ReadNumber(iNodes[number], VelRmaUnits::Dimension::Any, "a number", ioFaults);
+    const auto real =
+        VelRmaDefaultValue::ReadNumber(iNodes[number], VelRmaUnits::Dimension::None, "a number", ioFaults);
     if (!real) return {};
     reals.push_back(*real);
   }
@@ -104,7 +105,7 @@ std::optional<float> VelRmaDefaultValue::ReadNumber(const VelConfigurationNode& 
                                                     VelRmaUnits::Dimension iDimension, std::string_view iExpected,
                                                     VelRmaFaults& ioFaults) {
   double number = 0.0;
-  if (iNode.kind == Kind::Text) {
+  if (iNode.kind == Kind::Text && iDimension != VelRmaUnits::Dimension::None) {
     const std::string cause = VelRmaUnits::Read(iNode.text, iDimension, number);
     if (!cause.empty()) ioFaults.Add(iNode.position, cause);
     if (!cause.empty()) return std::nullopt;

@@ -53,7 +53,7 @@ class VelRmaDefaultValue {
                                                 VelRmaFaults& ioFaults);
 
   /// Reads a number from a file, and reports what is none.
-  /// @param[in] iDimension what it measures; a text is then a number and a unit
+  /// @param[in] iDimension what it measures; a text is then a number and a unit, and for None it is refused
   /// @param[in] iExpected made to follow "expected"
   static std::optional<float> ReadNumber(const VelConfigurationNode& iNode, VelRmaUnits::Dimension iDimension,
                                          std::string_view iExpected, VelRmaFaults& ioFaults);

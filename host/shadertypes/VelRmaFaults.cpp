@@ -8,6 +8,13 @@
 
 #include "host/shadertypes/VelRmaNearestWord.h"
 
+namespace {
+
+/// @return true for the text of a real that reads like an integer
+bool IsWhole(std::string_view iText) { return iText.find_first_not_of("-0123456789") == std::string_view::npos; }
+
+}  // namespace
+
 void VelRmaFaults::Add(VelConfigurationPosition iPosition, std::string iCause) {
   if (faults_.size() < capacity) {
     faults_.push_back({iPosition.line, iPosition.column, std::move(iCause)});
@@ -16,11 +23,13 @@ void VelRmaFaults::Add(VelConfigurationPosition iPosition, std::string iCause) {
   }
 }
 
-void VelRmaFaults::AddUnknown(VelConfigurationPosition iPosition, std::string iCause, std::string_view iFound,
-                              std::span<const std::string_view> iWords) {
+std::string_view VelRmaFaults::AddUnknown(VelConfigurationPosition iPosition, std::string iCause,
+                                          std::string_view iFound, std::span<const std::string_view> iWords) {
   // To look for a near word is worth it only for what is told, and among words that somebody can know.
-  if (faults_.size() < capacity && iWords.size() < capacity) iCause += VelRmaNearestWord::Question(iFound, iWords);
-  Add(iPosition, std::move(iCause));
+  const bool isWorthIt = faults_.size() < capacity && iWords.size() < capacity;
+  const std::string_view nearest = isWorthIt ? VelRmaNearestWord::Find(iFound, iWords) : std::string_view();
+  Add(iPosition, std::move(iCause) + VelRmaNearestWord::Question(nearest));
+  return nearest;
 }
 
 std::vector<VelConfigurationFault> VelRmaFaults::Take() {
@@ -56,8 +65,9 @@ std::string VelRmaFaults::Describe(const VelConfigurationNode& iNode) {
     case VelConfigurationNode::Kind::Text:
       return "the text " + Quote(iNode.text);
     case VelConfigurationNode::Kind::Integer:
-    case VelConfigurationNode::Kind::Real:
       return "the number " + iNode.text;
+    case VelConfigurationNode::Kind::Real:
+      return "the number " + iNode.text + (IsWhole(iNode.text) ? ".0" : "");
     case VelConfigurationNode::Kind::Boolean:
     case VelConfigurationNode::Kind::Moment:
       break;

@@ -5,6 +5,8 @@
 #define HOST_SHADERTYPES_VELRMAFAULTS_H
 
 #include <cstddef>
+#include <functional>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -24,8 +26,13 @@ class VelRmaFaults {
 
   /// Adds a word that is not known, with the one that may be meant.
   /// @param[in] iWords those that are known
-  void AddUnknown(VelConfigurationPosition iPosition, std::string iCause, std::string_view iFound,
-                  std::span<const std::string_view> iWords);
+  /// @return the one of iWords that may be meant; empty where none is near, and where there are too many to be told
+  std::string_view AddUnknown(VelConfigurationPosition iPosition, std::string iCause, std::string_view iFound,
+                              std::span<const std::string_view> iWords);
+
+  /// Remembers a key of the file that was found in another table, so that it is not said to be missing as well.
+  void Misplace(std::string_view iKey) { misplaced_.emplace(iKey); }
+  bool IsMisplaced(std::string_view iKey) const { return misplaced_.contains(iKey); }
 
   bool IsEmpty() const noexcept { return faults_.empty(); }
 
@@ -47,6 +54,7 @@ class VelRmaFaults {
 
   std::vector<VelConfigurationFault> faults_;
   std::size_t more_ = 0;  ///< Those that are only counted.
+  std::set<std::string, std::less<>> misplaced_;
 };
 
 #endif  // HOST_SHADERTYPES_VELRMAFAULTS_H

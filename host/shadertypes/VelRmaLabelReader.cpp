@@ -46,7 +46,9 @@ std::vector<VelRmaLabel> VelRmaLabelReader::ReadLanguages(std::size_t iTable) co
     const VelConfigurationNode& node = nodes[inner];
     hasEnglish = hasEnglish || node.name == english;
     if (!IsLanguage(node.name)) {
-      table_.Faults().Add(node.key, "expected a language such as en or de_AT, found " + VelRmaFaults::Quote(node.name));
+      const std::string hint = VelRmaTable::HintOfMisplaced(nodes, iTable, inner, table_.Faults());
+      table_.Faults().Add(node.key,
+                          "expected a language such as en or de_AT, found " + VelRmaFaults::Quote(node.name) + hint);
     } else if (IsSound(node)) {
       labels.push_back({VelString(node.name), VelString(node.text)});
     }

@@ -66,10 +66,11 @@ void VelRmaMappingReader::ReadOne(const Row& iRow, std::size_t iTable, std::vect
   const auto value = table.Find("default");
   if (names) oKeys.push_back({key + ".ParameterValue", ReadParameters(iRow, table, *names)});
   if (value) oKeys.push_back({key + ".DefaultValue", ReadDefault(iRow, table, *value)});
-  if (!names && !value) {
-    faults_.Add(nodes_[iTable].position,
-                "expected the key 'parameters' or 'default' of '" + std::string(iRow.word) + "', found neither");
-  }
+  // Names that a configuration above gives would hide the default.
+  if (value && !names) oKeys.push_back({key + ".ParameterValue", {}});
+  if (names.has_value() != value.has_value() || table.IsMisspelt("parameters") || table.IsMisspelt("default")) return;
+  faults_.Add(nodes_[iTable].position, "expected the key 'parameters' or 'default' of '" + std::string(iRow.word) +
+                                           "', found " + (names ? "both" : "neither"));
 }
 
 VelString VelRmaMappingReader::ReadParameters(const Row& iRow, const VelRmaTable& iTable, std::size_t iNames) {
@@ -93,11 +94,13 @@ bool VelRmaMappingReader::Suits(const Row& iRow, const VelConfigurationNode& iNa
   std::vector<std::string_view> known;
   for (const VelRmaShaderParameter& parameter : parameters_) known.push_back(parameter.name.View());
   const auto found = std::find(known.begin(), known.end(), iName.text);
+  if (found == known.end() && !areNamesKnown_) return false;
   if (found == known.end()) {
     faults_.AddUnknown(iName.position, "there is no parameter " + VelRmaFaults::Quote(iName.text), iName.text, known);
     return false;
   }
   const VelString& startUp = parameters_[static_cast<std::size_t>(found - known.begin())].startUp;
+  if (startUp.IsEmpty()) return false;
   if (std::find(iRow.startUps.begin(), iRow.startUps.end(), startUp.View()) != iRow.startUps.end()) return true;
   faults_.Add(iName.position, "the parameter " + VelRmaFaults::Quote(iName.text) + " is a " + startUp.CString() +
                                   "; '" + std::string(iRow.word) + "' takes " + VelRmaFaults::Choice(iRow.startUps));
@@ -112,7 +115,7 @@ VelString VelRmaMappingReader::ReadDefault(const Row& iRow, const VelRmaTable& i
     iTable.Refuse("default", iNode);
     return {};
   }
-  const auto dimension = isPair ? VelRmaUnits::Dimension::Any : VelRmaUnits::Dimension::Angle;
+  const auto dimension = isPair ? VelRmaUnits::Dimension::None : VelRmaUnits::Dimension::Angle;
   std::vector<float> reals;
   for (const std::size_t place : places) {
     const auto real =

@@ -18,9 +18,10 @@
 class VelRmaMappingReader {
  public:
   /// @param[in] iParameters those of the type, kept by the caller
+  /// @param[in] iAreNamesKnown false when a name was refused: nobody knows then which one a reader means
   VelRmaMappingReader(const VelRmaNodes& iNodes, const std::vector<VelRmaShaderParameter>& iParameters,
-                      VelRmaFaults& ioFaults)
-      : nodes_(iNodes), parameters_(iParameters), faults_(ioFaults) {}
+                      bool iAreNamesKnown, VelRmaFaults& ioFaults)
+      : nodes_(iNodes), parameters_(iParameters), areNamesKnown_(iAreNamesKnown), faults_(ioFaults) {}
 
   /// @param[in] iTable the place of the table
   /// @param[in,out] oKeys the keys of the configuration are appended
@@ -41,6 +42,7 @@ class VelRmaMappingReader {
 
   const VelRmaNodes& nodes_;
   const std::vector<VelRmaShaderParameter>& parameters_;
+  bool areNamesKnown_;
   VelRmaFaults& faults_;
 };
 

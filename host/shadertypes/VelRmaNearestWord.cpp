@@ -63,7 +63,6 @@ std::string_view VelRmaNearestWord::Find(std::string_view iFound, std::span<cons
   return nearest;
 }
 
-std::string VelRmaNearestWord::Question(std::string_view iFound, std::span<const std::string_view> iWords) {
-  const std::string_view nearest = Find(iFound, iWords);
-  return nearest.empty() ? std::string() : "; did you mean '" + std::string(nearest) + "'?";
+std::string VelRmaNearestWord::Question(std::string_view iNearest) {
+  return iNearest.empty() ? std::string() : "; did you mean '" + std::string(iNearest) + "'?";
 }

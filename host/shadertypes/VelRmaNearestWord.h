@@ -17,8 +17,9 @@ class VelRmaNearestWord {
   /// @return the nearest word, the first of equally near ones; empty where none is near
   static std::string_view Find(std::string_view iFound, std::span<const std::string_view> iWords);
 
+  /// @param[in] iNearest what Find gave
   /// @return "; did you mean 'scale_u'?", empty where no word is near
-  static std::string Question(std::string_view iFound, std::span<const std::string_view> iWords);
+  static std::string Question(std::string_view iNearest);
 };
 
 #endif  // HOST_SHADERTYPES_VELRMANEARESTWORD_H

@@ -46,6 +46,31 @@ constexpr std::array slotWords{
 #undef VEL_RSH_SLOT
 };
 
+/// Tags that a shader which is connected follows: values go along between parameters of one start-up alone.
+struct FollowedTag {
+  std::string_view word;
+  std::string_view startUp;
+};
+
+constexpr std::array followedTags{
+    FollowedTag{"mapping-behavior", "VelRmaInteger"},
+    FollowedTag{"projector-function", "VelRmaInteger"},
+    FollowedTag{"scale_u", "VelRmaScalar"},
+    FollowedTag{"scale_v", "VelRmaScalar"},
+    FollowedTag{"offset_u", "VelRmaScalar"},
+    FollowedTag{"offset_v", "VelRmaScalar"},
+    FollowedTag{angleTag, "VelRmaScalar"},
+    FollowedTag{"flip_u", "VelRmaBoolean"},
+    FollowedTag{"flip_v", "VelRmaBoolean"},
+    FollowedTag{"repeat_u", "VelRmaBoolean"},
+    FollowedTag{"repeat_v", "VelRmaBoolean"},
+};
+
+/// What can feed a channel.
+constexpr std::array slotStartUps{std::string_view("VelRmaColor"), std::string_view("VelRmaScalar"),
+                                  std::string_view("VelRmaVector"), std::string_view("VelRmaInteger"),
+                                  std::string_view("VelRmaTexture")};
+
 bool IsOneOf(std::string_view iWord, std::span<const std::string_view> iWords) {
   return std::find(iWords.begin(), iWords.end(), iWord) != iWords.end();
 }
@@ -66,7 +91,7 @@ VelRmaParameterReader::VelRmaParameterReader(const VelRmaNodes& iNodes, std::siz
 VelRmaShaderParameter VelRmaParameterReader::Read() {
   ReadName();
   if (const auto type = table_.Take("type", table_.Require("type"), Kind::Text)) {
-    parameter_.startUp = VelString(nodes_[*type].text);
+    if (VelRmaStartUp::Find(nodes_[*type].text) != nullptr) parameter_.startUp = VelString(nodes_[*type].text);
   }
   ReadTags();
   ReadDefault();
@@ -118,10 +143,13 @@ void VelRmaParameterReader::ReadTags() {
     if (node.kind != Kind::Text) {
       table_.Refuse("tags", inner);
     } else if (!IsOneOf(node.text, tagWords)) {
-      faults_.AddUnknown(node.position, "unknown tag " + VelRmaFaults::Quote(node.text), node.text, tagWords);
+      faults_.AddUnknown(
+          node.position,
+          "unknown tag " + VelRmaFaults::Quote(node.text) + "; expected one of the tags of docs/shader_types.md",
+          node.text, tagWords);
     } else if (std::find(tags_.begin(), tags_.end(), node.text) != tags_.end()) {
       faults_.Add(node.position, "the tag " + VelRmaFaults::Quote(node.text) + " is there already");
-    } else {
+    } else if (Suits(node)) {
       tags_.push_back(node.text);
     }
   }
@@ -130,16 +158,33 @@ void VelRmaParameterReader::ReadTags() {
   parameter_.tags = VelString(all);
 }
 
+bool VelRmaParameterReader::Suits(const VelConfigurationNode& iTag) {
+  const auto* const row = std::find_if(followedTags.begin(), followedTags.end(),
+                                       [&](const FollowedTag& iRow) { return iRow.word == iTag.text; });
+  const VelString& startUp = parameter_.startUp;
+  if (row == followedTags.end() || startUp.IsEmpty() || row->startUp == startUp.View()) return true;
+  faults_.Add(iTag.position, "the tag " + VelRmaFaults::Quote(iTag.text) + " does nothing on a " + startUp.CString() +
+                                 "; expected a " + std::string(row->startUp));
+  return false;
+}
+
 void VelRmaParameterReader::ReadSlot() {
   const auto slot = table_.Take("slot", table_.Find("slot"), Kind::Text);
   if (!slot) return;
   const VelConfigurationNode& node = nodes_[*slot];
   if (!IsOneOf(node.text, slotWords)) {
-    return faults_.AddUnknown(
+    faults_.AddUnknown(
         node.position,
         "unknown slot " + VelRmaFaults::Quote(node.text) + "; expected " + VelRmaFaults::Choice(slotWords), node.text,
         slotWords);
+    return;
   }
+  const VelString& startUp = parameter_.startUp;
+  if (!startUp.IsEmpty() && !IsOneOf(startUp.View(), slotStartUps)) {
+    return faults_.Add(node.position, std::string("a ") + startUp.CString() + " feeds no slot; expected a " +
+                                          VelRmaFaults::Choice(slotStartUps));
+  }
+  slotPosition_ = node.position;
   parameter_.slot = VelString(node.text);
 }
 

@@ -25,6 +25,9 @@ class VelRmaParameterReader {
   /// @return where the name stands
   VelConfigurationPosition NamePosition() const noexcept { return namePosition_; }
 
+  /// @return where the slot stands
+  VelConfigurationPosition SlotPosition() const noexcept { return slotPosition_; }
+
   /// Reports a text that is no start-up.
   static void RefuseStartUp(const VelConfigurationNode& iText, VelRmaFaults& ioFaults);
 
@@ -32,6 +35,7 @@ class VelRmaParameterReader {
   void ReadName();
   void ReadDefault();
   void ReadTags();
+  bool Suits(const VelConfigurationNode& iTag);
   void ReadSlot();
   void ReadLayout();
 
@@ -39,6 +43,7 @@ class VelRmaParameterReader {
   VelRmaFaults& faults_;
   VelRmaTable table_;
   VelConfigurationPosition namePosition_;
+  VelConfigurationPosition slotPosition_;
   VelRmaShaderParameter parameter_;
   std::vector<std::string> tags_;
 };

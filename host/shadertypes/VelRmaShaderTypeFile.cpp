@@ -55,7 +55,9 @@ HRESULT VelRmaShaderTypeFile::Parse(const std::string& iPath, std::string_view i
     faults.push_back(std::move(fault));
   }
   for (const VelConfigurationFault& one : faults) Report(iPath, one);
-  return faults.empty() ? S_OK : E_FAIL;
+  if (!faults.empty()) return E_FAIL;
+  VelTraceHandle(channel).Info("Shader type read { file = %s, type = %s, version = %u }", iPath, iName, oType.version);
+  return S_OK;
 }
 
 void VelRmaShaderTypeFile::Report(const std::string& iPath, const VelConfigurationFault& iFault) {

@@ -25,7 +25,7 @@ class VelRmaShaderTypeFile {
   /// @param[out] oCause why the file cannot be read
   static bool Load(const std::string& iPath, std::string& oText, std::string& oCause);
 
-  /// Reads the text of a file, and reports all that is wrong with it.
+  /// Reads the text of a file, and reports all that is wrong with it, or as information that it was read.
   /// @param[in] iText untrusted
   /// @param[in] iName the type that the file is named after
   /// @param[out] oType untouched unless S_OK

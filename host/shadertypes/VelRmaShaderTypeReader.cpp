@@ -3,14 +3,14 @@
 /// @file VelRmaShaderTypeReader.cpp The keys of a file, and what stands in no parameter.
 #include "host/shadertypes/VelRmaShaderTypeReader.h"
 
-#include <array>
+#include <algorithm>
 #include <charconv>
-#include <map>
 #include <optional>
 #include <string>
 #include <system_error>
 #include <utility>
 
+#include "host/shadertypes/VelRmaFileKeys.h"
 #include "host/shadertypes/VelRmaLabelReader.h"
 #include "host/shadertypes/VelRmaMappingReader.h"
 #include "host/shadertypes/VelRmaParameterReader.h"
@@ -22,16 +22,8 @@ using Kind = VelConfigurationNode::Kind;
 
 constexpr std::string_view anyUsage = "any";
 
-constexpr std::array keys{
-    VelRmaKey{"type", "the name of the type, which is that of the file without '.toml'"},
-    VelRmaKey{"output", "the start-up of what the type produces, such as \"VelRmaColor\""},
-    VelRmaKey{"usage", "\"any\" or a whole number from 0 to 4294967295"},
-    VelRmaKey{"version", "a whole number from 1 to 4294967295"},
-    VelRmaKey{"parent", "the name of a configuration"},
-    VelRmaKey{"label", VelRmaLabelReader::expected},
-    VelRmaKey{"parameter", "tables, each below a header [[parameter]]"},
-    VelRmaKey{"mapping", "a table of mapping readers"},
-};
+/// What a manager is asked for when it shall look for new types.
+constexpr std::uint32_t usageOfQuestion = 1;
 
 std::optional<std::uint32_t> NumberOf(const VelConfigurationNode& iNode) {
   std::uint32_t number = 0;
@@ -48,14 +40,17 @@ std::vector<VelConfigurationFault> VelRmaShaderTypeReader::Read(const VelString&
                                                                 const std::vector<VelConfigurationNode>& iNodes,
                                                                 VelRmaShaderType& oType) {
   VelRmaShaderTypeReader reader(iNodes);
-  const VelRmaTable file(reader.nodes_, VelRmaNodes::root, "a shader type", keys, reader.faults_);
+  const VelRmaTable file(reader.nodes_, VelRmaNodes::root, "a shader type", VelRmaFileKeys::all, reader.faults_);
+  // What stands below a header is read before the head, which lacks the keys that were written there.
+  reader.ReadParameters(file);
+  if (const auto mapping = file.Take("mapping", file.Find("mapping"), Kind::Table)) {
+    VelRmaMappingReader(reader.nodes_, reader.type_.parameters, reader.areNamesKnown_, reader.faults_)
+        .Read(*mapping, reader.type_.mapping);
+  }
+  reader.type_.labels = VelRmaLabelReader(file).Read();
   reader.ReadHead(file, iName);
   reader.ReadUsage(file);
   reader.ReadVersion(file);
-  reader.ReadParameters(file);
-  if (const auto mapping = file.Take("mapping", file.Find("mapping"), Kind::Table)) {
-    VelRmaMappingReader(reader.nodes_, reader.type_.parameters, reader.faults_).Read(*mapping, reader.type_.mapping);
-  }
   if (reader.faults_.IsEmpty()) oType = std::move(reader.type_);
   return reader.faults_.Take();
 }
@@ -81,7 +76,6 @@ void VelRmaShaderTypeReader::ReadHead(const VelRmaTable& iFile, const VelString&
   } else if (parent) {
     type_.parent = VelString(nodes_[*parent].text);
   }
-  type_.labels = VelRmaLabelReader(iFile).Read();
 }
 
 void VelRmaShaderTypeReader::ReadUsage(const VelRmaTable& iFile) {
@@ -91,6 +85,11 @@ void VelRmaShaderTypeReader::ReadUsage(const VelRmaTable& iFile) {
   if (node.kind == Kind::Text && node.text == anyUsage) return;
   const auto number = NumberOf(node);
   if (!number) return iFile.Refuse("usage", *usage);
+  if (*number == usageOfQuestion) {
+    return faults_.Add(node.position,
+                       "'usage': 1 alone is the question for new types and no context; expected \"any\" or the bits "
+                       "of contexts such as 0x6");
+  }
   type_.usage = *number;
 }
 
@@ -102,23 +101,46 @@ void VelRmaShaderTypeReader::ReadVersion(const VelRmaTable& iFile) {
 }
 
 void VelRmaShaderTypeReader::ReadParameters(const VelRmaTable& iFile) {
-  const auto all = iFile.Take("parameter", iFile.Find("parameter"), Kind::Array);
+  const auto found = iFile.Find(VelRmaFileKeys::parameter);
+  const auto all = iFile.Take(VelRmaFileKeys::parameter, found, Kind::Array);
+  areNamesKnown_ = found.has_value() == all.has_value() && !HasUnknownTables();
   if (!all) return;
-  std::map<VelString, unsigned> lines;
+  Lines names;
+  Lines slots;
   for (const std::size_t inner : nodes_.Inner(*all)) {
     if (nodes_[inner].kind != Kind::Table) {
-      iFile.Refuse("parameter", inner);
+      iFile.Refuse(VelRmaFileKeys::parameter, inner);
+      areNamesKnown_ = false;
       continue;
     }
     VelRmaParameterReader reader(nodes_, inner, faults_);
     VelRmaShaderParameter parameter = reader.Read();
-    if (parameter.name.IsEmpty()) continue;
-    const auto [known, isNew] = lines.try_emplace(parameter.name, reader.NamePosition().line);
-    if (!isNew) {
-      faults_.Add(reader.NamePosition(), "the parameter " + VelRmaFaults::Quote(parameter.name.View()) +
-                                             " is there already, in line " + std::to_string(known->second));
+    if (parameter.name.IsEmpty() || !RefuseSecond("parameter", parameter.name, reader.NamePosition(), names)) {
+      areNamesKnown_ = false;
       continue;
     }
+    static_cast<void>(RefuseSecond("slot", parameter.slot, reader.SlotPosition(), slots));
     type_.parameters.push_back(std::move(parameter));
   }
+}
+
+/// @return true where the parameters may stand below headers that are misspelt
+bool VelRmaShaderTypeReader::HasUnknownTables() const {
+  const std::vector<std::size_t> inner = nodes_.Inner(VelRmaNodes::root);
+  return std::any_of(inner.begin(), inner.end(), [&](std::size_t iNode) {
+    const VelConfigurationNode& node = nodes_[iNode];
+    if (node.kind != Kind::Table && node.kind != Kind::Array) return false;
+    return std::none_of(VelRmaFileKeys::all.begin(), VelRmaFileKeys::all.end(),
+                        [&](const VelRmaKey& iKey) { return iKey.name == node.name; });
+  });
+}
+
+bool VelRmaShaderTypeReader::RefuseSecond(const char* iWhat, const VelString& iWord, VelConfigurationPosition iPosition,
+                                          Lines& ioLines) {
+  if (iWord.IsEmpty()) return true;
+  const auto [known, isNew] = ioLines.try_emplace(iWord, iPosition.line);
+  if (isNew) return true;
+  faults_.Add(iPosition, std::string("the ") + iWhat + ' ' + VelRmaFaults::Quote(iWord.View()) +
+                             " is there already, in line " + std::to_string(known->second));
+  return false;
 }

@@ -4,6 +4,7 @@
 #ifndef HOST_SHADERTYPES_VELRMASHADERTYPEREADER_H
 #define HOST_SHADERTYPES_VELRMASHADERTYPEREADER_H
 
+#include <map>
 #include <vector>
 
 #include "host/shadertypes/VelRmaFaults.h"
@@ -24,16 +25,25 @@ class VelRmaShaderTypeReader {
                                                  VelRmaShaderType& oType);
 
  private:
+  using Lines = std::map<VelString, unsigned>;  ///< Where words were first found.
+
   explicit VelRmaShaderTypeReader(const std::vector<VelConfigurationNode>& iNodes) : nodes_(iNodes) {}
 
   void ReadHead(const VelRmaTable& iFile, const VelString& iName);
   void ReadUsage(const VelRmaTable& iFile);
   void ReadVersion(const VelRmaTable& iFile);
   void ReadParameters(const VelRmaTable& iFile);
+  bool HasUnknownTables() const;
+
+  /// Reports a word that stands in the file already.
+  /// @param[in] iWhat what it is, made to follow "the"
+  /// @return false when it was reported
+  bool RefuseSecond(const char* iWhat, const VelString& iWord, VelConfigurationPosition iPosition, Lines& ioLines);
 
   VelRmaNodes nodes_;
   VelRmaFaults faults_;
   VelRmaShaderType type_;
+  bool areNamesKnown_ = true;  ///< Whether type_ has every parameter that the file names.
 };
 
 #endif  // HOST_SHADERTYPES_VELRMASHADERTYPEREADER_H

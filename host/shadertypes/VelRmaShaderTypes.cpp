@@ -92,7 +92,9 @@ void VelRmaShaderTypes::ScanPath(const std::string& iPath) {
 void VelRmaShaderTypes::ScanFile(const std::string& iPath) {
   const VelString name = VelRmaShaderTypeFile::NameOf(iPath);
   if (name.IsEmpty()) {
-    ReportOnce(iPath + ": expected a file that is named <type>.toml, or a folder of such files");
+    const bool isThere = VelSystemFile::Exists(iPath);
+    ReportOnce(iPath + (isThere ? ": expected a file that is named <type>.toml, or a folder of such files"
+                                : ": no such file or folder"));
     return;
   }
   Entry*& entry = byName_[name];

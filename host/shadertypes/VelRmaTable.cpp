@@ -4,7 +4,9 @@
 #include "host/shadertypes/VelRmaTable.h"
 
 #include <algorithm>
-#include <vector>
+#include <utility>
+
+#include "host/shadertypes/VelRmaFileKeys.h"
 
 VelRmaTable::VelRmaTable(const VelRmaNodes& iNodes, std::size_t iTable, std::string_view iOf,
                          std::span<const VelRmaKey> iKeys, VelRmaFaults& ioFaults)
@@ -15,8 +17,31 @@ VelRmaTable::VelRmaTable(const VelRmaNodes& iNodes, std::size_t iTable, std::str
   for (const std::size_t inner : iNodes.Inner(iTable)) {
     const std::string& name = iNodes[inner].name;
     if (std::find(words.begin(), words.end(), name) != words.end()) continue;
-    faults_.AddUnknown(iNodes[inner].key, "unknown key " + VelRmaFaults::Quote(name) + expected, name, words);
+    std::string cause = "unknown key " + VelRmaFaults::Quote(name) + expected;
+    if (const std::string hint = HintOfMisplaced(iNodes, iTable, inner, faults_); !hint.empty()) {
+      faults_.Add(iNodes[inner].key, cause + hint);
+      continue;
+    }
+    const std::string_view meant = faults_.AddUnknown(iNodes[inner].key, std::move(cause), name, words);
+    if (!meant.empty()) misspelt_.push_back(meant);
   }
+}
+
+/// What stands in a line below the header of a table was often written for the file. What stands in an inline table,
+/// which ends in its line, was not, and what stands in a table of a parameter may have been written for the parameter.
+std::string VelRmaTable::HintOfMisplaced(const VelRmaNodes& iNodes, std::size_t iTable, std::size_t iInner,
+                                         VelRmaFaults& ioFaults) {
+  const VelConfigurationNode& node = iNodes[iInner];
+  if (iTable == VelRmaNodes::root || iNodes[iTable].position.line == node.key.line) return {};
+  const std::size_t outer = iNodes[iTable].parent;
+  const bool isOfFile = outer == VelRmaNodes::root || iNodes[outer].kind == Kind::Array;
+  if (!isOfFile || !VelRmaFileKeys::IsOfHead(node.name)) return {};
+  ioFaults.Misplace(node.name);
+  return "; '" + node.name + "' is a key of the file, and stands before the first header such as [[parameter]]";
+}
+
+bool VelRmaTable::IsMisspelt(std::string_view iKey) const {
+  return std::find(misspelt_.begin(), misspelt_.end(), iKey) != misspelt_.end();
 }
 
 std::optional<std::size_t> VelRmaTable::Find(std::string_view iKey) const {
@@ -29,6 +54,7 @@ std::optional<std::size_t> VelRmaTable::Find(std::string_view iKey) const {
 std::optional<std::size_t> VelRmaTable::Require(std::string_view iKey) const {
   const auto found = Find(iKey);
   if (found) return found;
+  if (IsMisspelt(iKey) || (table_ == VelRmaNodes::root && faults_.IsMisplaced(iKey))) return std::nullopt;
   const VelConfigurationPosition position =
       table_ == VelRmaNodes::root ? VelConfigurationPosition{1, 1} : nodes_[table_].position;
   faults_.Add(position, "the key '" + std::string(iKey) + "' is missing; expected " + std::string(Expected(iKey)));

@@ -9,6 +9,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "host/shadertypes/VelRmaFaults.h"
 #include "host/shadertypes/VelRmaNodes.h"
@@ -35,8 +36,18 @@ class VelRmaTable {
   /// @return the place of its value; nothing when it is not there
   std::optional<std::size_t> Find(std::string_view iKey) const;
 
-  /// As Find, and reports a key that is missing.
+  /// As Find, and reports a key that is missing, unless it was found misspelt or in another table.
   std::optional<std::size_t> Require(std::string_view iKey) const;
+
+  /// @return true when an unknown key was reported that is near to this one
+  bool IsMisspelt(std::string_view iKey) const;
+
+  /// Words where a key of the file belongs that stands below a header, and remembers it.
+  /// @param[in] iTable the table in which it stands
+  /// @param[in] iInner its place
+  /// @return made to follow a cause; empty for every other key
+  static std::string HintOfMisplaced(const VelRmaNodes& iNodes, std::size_t iTable, std::size_t iInner,
+                                     VelRmaFaults& ioFaults);
 
   /// Takes a value of one kind, and reports one of another.
   /// @param[in] iNode what Find or Require gave
@@ -56,6 +67,7 @@ class VelRmaTable {
   std::size_t table_;
   std::span<const VelRmaKey> keys_;
   VelRmaFaults& faults_;
+  std::vector<std::string_view> misspelt_;  ///< The known keys that unknown ones are near to.
 };
 
 #endif  // HOST_SHADERTYPES_VELRMATABLE_H

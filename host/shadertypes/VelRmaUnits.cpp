@@ -66,7 +66,8 @@ std::string VelRmaUnits::Read(std::string_view iText, Dimension iDimension, doub
   const std::string expected = "; expected " + WordsOf(iDimension);
   if (unit.empty()) return "no unit stands behind the number in " + VelRmaFaults::Quote(iText) + expected;
   if (row == rows.end()) {
-    return "unknown unit " + VelRmaFaults::Quote(unit) + expected + VelRmaNearestWord::Question(unit, words);
+    return "unknown unit " + VelRmaFaults::Quote(unit) + expected +
+           VelRmaNearestWord::Question(VelRmaNearestWord::Find(unit, words));
   }
   if (iDimension != Dimension::Any && row->dimension != iDimension) {
     return "the unit " + VelRmaFaults::Quote(unit) + " does not measure what is given here" + expected;

@@ -13,13 +13,14 @@
 class VelRmaUnits {
  public:
   enum class Dimension : std::uint8_t {
+    None,  ///< A plain number, which has no unit.
     Any,
     Angle,
     Length,
   };
 
   /// @param[in] iText a number, and after it, with or without a blank, a unit
-  /// @param[in] iDimension what is measured; Any takes every unit
+  /// @param[in] iDimension what is measured; Any takes every unit, None has nothing to be read
   /// @param[out] oNumber the number in the unit of the system; untouched on failure
   /// @return what is wrong, such as "unknown unit 'grad'; ..."; empty where nothing is
   static std::string Read(std::string_view iText, Dimension iDimension, double& oNumber);

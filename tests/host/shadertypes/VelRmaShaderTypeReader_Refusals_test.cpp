@@ -2,41 +2,11 @@
 // SPDX-License-Identifier: Apache-2.0
 /// @file VelRmaShaderTypeReader_Refusals_test.cpp All that is refused in a file of a shader type, with what is said of
 /// it.
-#include "tests/host/shadertypes/ShaderTypesTest.h"
+#include "tests/host/shadertypes/ShaderTypeRefusalsTest.h"
 
 namespace {
 
-struct Case {
-  const char* name;  ///< Of the case, and of the file.
-  std::string text;
-  Texts expected;  ///< "line:column: cause", in order.
-};
-
-class VelRmaShaderTypeReaderRefusalsTest : public ShaderTypesTest {
- protected:
-  /// Writes all files, lists the types once, and compares what was said of each.
-  void Check(const std::vector<Case>& iCases) {
-    Texts expected;
-    for (const Case& test : iCases) WriteType(test.name, test.text);
-    WriteType("Zz", Sound("Zz"));
-    ASSERT_EQ(Start(), S_OK);
-    EXPECT_EQ(OwnTypes(), Texts{"Zz"}) << "the sound file loads, and no other";
-    const Texts errors = TakeErrors();
-    for (const Case& test : iCases) {
-      Texts said;
-      const std::string begin = std::string("VelRmaConfiguredShaderFactory: types/") + test.name + ".toml:";
-      for (const std::string& error : errors) {
-        if (error.starts_with(begin)) said.push_back(error.substr(begin.size()));
-      }
-      EXPECT_EQ(said, test.expected) << test.name;
-    }
-  }
-
-  /// A sound file with one parameter, whose lines 7 and on are the given ones.
-  static std::string WithParameter(const std::string& iName, const std::string& iRest) {
-    return Sound(iName, "[[parameter]]\nname = \"p\"\n" + iRest);
-  }
-};
+using VelRmaShaderTypeReaderRefusalsTest = ShaderTypeRefusalsTest;
 
 TEST_F(VelRmaShaderTypeReaderRefusalsTest, TheHead) {
   Check({
@@ -83,6 +53,10 @@ TEST_F(VelRmaShaderTypeReaderRefusalsTest, TheHead) {
       {"UsageReal",
        "type = \"UsageReal\"\noutput = \"VelRmaVoid\"\nversion = 1\nusage = 1.5\n",
        {"4:9: 'usage': expected \"any\" or a whole number from 0 to 4294967295, found the number 1.5"}},
+      {"UsageOfQuestion",
+       "type = \"UsageOfQuestion\"\noutput = \"VelRmaVoid\"\nversion = 1\nusage = 0x1\n",
+       {"4:9: 'usage': 1 alone is the question for new types and no context; expected \"any\" or the bits of contexts "
+        "such as 0x6"}},
       {"Parent",
        Sound("Parent", "parent = \"Parent\"\n"),
        {"5:10: 'parent': expected the name of another configuration, found the text 'Parent'"}},
@@ -135,7 +109,8 @@ TEST_F(VelRmaShaderTypeReaderRefusalsTest, Parameters) {
         "'tags'?"}},
       {"Tag",
        WithParameter("Tag", "type = \"VelRmaVoid\"\ntags = [\"mapping\", \"scale-u\", \"xyzzyxyzzy\"]\n"),
-       {"8:20: unknown tag 'scale-u'; did you mean 'scale_u'?", "8:31: unknown tag 'xyzzyxyzzy'"}},
+       {"8:20: unknown tag 'scale-u'; expected one of the tags of docs/shader_types.md; did you mean 'scale_u'?",
+        "8:31: unknown tag 'xyzzyxyzzy'; expected one of the tags of docs/shader_types.md"}},
       {"TagTwice",
        WithParameter("TagTwice", "type = \"VelRmaVoid\"\ntags = [\"dpi\", \"dpi\"]\n"),
        {"8:16: the tag 'dpi' is there already"}},
@@ -183,7 +158,10 @@ TEST_F(VelRmaShaderTypeReaderRefusalsTest, DefaultsThatDoNotFit) {
         "2147483648"}},
       {"IntegerReal",
        with("IntegerReal", "VelRmaInteger", "1.0"),
-       {"8:11: expected a whole number from -2147483648 to 2147483647 for a VelRmaInteger, found the number 1"}},
+       {"8:11: expected a whole number from -2147483648 to 2147483647 for a VelRmaInteger, found the number 1.0"}},
+      {"IntegerExponent",
+       with("IntegerExponent", "VelRmaInteger", "1e39"),
+       {"8:11: expected a whole number from -2147483648 to 2147483647 for a VelRmaInteger, found the number 1e+39"}},
       {"Scalar",
        with("Scalar", "VelRmaScalar", "[1.0]"),
        {"8:11: expected a number, or a text of a number and a unit such as \"45 deg\", found an array"}},
@@ -212,6 +190,15 @@ TEST_F(VelRmaShaderTypeReaderRefusalsTest, DefaultsThatDoNotFit) {
       {"Color",
        with("Color", "VelRmaColor", "[1, 2, 3, 4, 5]"),
        {"8:11: expected an array of 3 or 4 numbers, found an array of 5"}},
+      {"ArrayUnits",
+       WithParameter("ArrayUnits",
+                     "type = \"VelRmaColor\"\ndefault = [\"45 deg\", 1, 1]\n"
+                     "[[parameter]]\nname = \"v\"\ntype = \"VelRmaVector\"\ndefault = [1, \"2 mm\", 1]\n"
+                     "[[parameter]]\nname = \"m\"\ntype = \"VelRmaMatrix\"\n"
+                     "default = [[1, 2, 3, 4], [1, 2, 3, \"4 m\"], [1, 2, 3, 4], [1, 2, 3, 4]]\n"
+                     "[mapping]\nscale = { default = [\"1 mm\", 1] }\n"),
+       {"8:12: expected a number, found the text '45 deg'", "12:15: expected a number, found the text '2 mm'",
+        "16:36: expected a number, found the text '4 m'", "18:22: expected a number, found the text '1 mm'"}},
       {"ColorText",
        with("ColorText", "VelRmaColor", "\"#ff0000\""),
        {"8:11: expected an array of 3 or 4 numbers, found the text '#ff0000'"}},
@@ -250,8 +237,7 @@ TEST_F(VelRmaShaderTypeReaderRefusalsTest, Mappings) {
        {"6:9: expected the key 'parameters' or 'default' of 'ratio', found neither"}},
       {"MapKey",
        Sound("MapKey", "[mapping]\nratio = { defualt = [1, 1] }\n"),
-       {"6:9: expected the key 'parameters' or 'default' of 'ratio', found neither",
-        "6:11: unknown key 'defualt' of a mapping reader; expected parameters or default; did you mean 'default'?"}},
+       {"6:11: unknown key 'defualt' of a mapping reader; expected parameters or default; did you mean 'default'?"}},
       {"MapNames",
        Sound("MapNames", parameters + "scale = { parameters = [] }\noffset = { parameters = \"scale_u\" }\n"),
        {"14:24: 'parameters': expected an array of one or two names of parameters, found an array of 0",
@@ -271,7 +257,8 @@ TEST_F(VelRmaShaderTypeReaderRefusalsTest, Mappings) {
         "7:24: the unit 'mm' does not measure what is given here; expected deg or rad"}},
       {"MapRotation",
        Sound("MapRotation", "[mapping]\nrotation = { default = [1], parameters = [\"a\", \"b\"] }\n"),
-       {"6:24: expected a number in radians, or a text such as \"45 deg\", found an array",
+       {"6:12: expected the key 'parameters' or 'default' of 'rotation', found both",
+        "6:24: expected a number in radians, or a text such as \"45 deg\", found an array",
         "6:42: 'parameters': expected an array of one name of a parameter, found an array of 2"}},
   });
 }

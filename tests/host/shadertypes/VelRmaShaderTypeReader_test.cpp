@@ -217,16 +217,16 @@ TEST_F(VelRmaShaderTypeReaderTest, Labels_FollowTheLanguage) {
 TEST_F(VelRmaShaderTypeReaderTest, Mapping_IsWhatTheReadersTake) {
   const VelIRshShader_var hShader =
       Make(Parameter("su", "VelRmaScalar", "default = 2") + Parameter("fu", "VelRmaBoolean", "default = true") +
-           "[mapping]\nscale = { parameters = [\"su\"], default = [4, 5] }\nflip = { parameters = [\"fu\", \"fu\"] }\n"
+           "[mapping]\nscale = { parameters = [\"su\"] }\nflip = { parameters = [\"fu\", \"fu\"] }\n"
            "offset = { default = [0.25, 1] }\nratio.default = [1, 1]\nrotation = { default = \"90 deg\" }\n");
   struct Case {
     const char* key;
     const char* expected;
   };
   for (const Case& test :
-       {Case{"MappingScale.ParameterValue", "su"}, Case{"MappingScale.DefaultValue", "4 5"},
+       {Case{"MappingScale.ParameterValue", "su"}, Case{"MappingScale.DefaultValue", "(none)"},
         Case{"MappingFlip.ParameterValue", "fu fu"}, Case{"MappingFlip.DefaultValue", "(none)"},
-        Case{"MappingOffset.ParameterValue", "(none)"}, Case{"MappingOffset.DefaultValue", "0.25 1"},
+        Case{"MappingOffset.ParameterValue", ""}, Case{"MappingOffset.DefaultValue", "0.25 1"},
         Case{"MappingRatio.DefaultValue", "1 1"}, Case{"MappingRotation.DefaultValue", "1.5707964"}}) {
     EXPECT_EQ(Value("Own", test.key), test.expected) << test.key;
   }
@@ -241,6 +241,19 @@ TEST_F(VelRmaShaderTypeReaderTest, Parent_IsTheConfigurationAbove) {
   const VelIRshShader_var hShader = Make("parent = \"Upper\"\n" + Parameter("a", "VelRmaScalar", "default = 1"));
   EXPECT_EQ(VelIRshParameterPrivate_var(Find(hShader, "a"))->HasTag(Tag::Diffuse), S_OK);
   EXPECT_EQ(LabelOf(Find(hShader, "a").Get()), "Above");
+}
+
+TEST_F(VelRmaShaderTypeReaderTest, AMappingDefault_StandsBeforeTheNamesOfTheParent) {
+  const VelIRshShader_var hShader = Make(
+      "parent = \"BasicMaterial\"\n[mapping]\noffset = { default = [0.25, 0.5] }\nratio = { default = [1, 1] }\n"
+      "scale = { default = [2, 4] }\nrotation = { default = 0 }\nflip = { default = [1, 1] }\n");
+  VelTraceService::SetSwitches("*=warning,VelRshReaderMappingScale=off");
+  Vel3x3Matrix transformation;
+  EXPECT_EQ(VelIRmaVisuTextureCoordinateTransformation_var(hShader)->GetTransformation(transformation), S_OK);
+  EXPECT_EQ(transformation, Vel3x3Matrix({0.5F, 0.0F, 0.0F, 0.25F}, {0.25F, 0.5F}));
+  for (const std::string& error : TakeErrors()) {
+    EXPECT_TRUE(error.starts_with("VelRshReaderMappingScale: ")) << error << ": of a shader without a material alone";
+  }
 }
 
 TEST_F(VelRmaShaderTypeReaderTest, EveryOption_GivesThePlainSet) {

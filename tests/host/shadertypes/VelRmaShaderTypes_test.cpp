@@ -8,6 +8,7 @@
 #include "RenderingShader/VelRshModel.m/include/VelRshModelFactoryFeature.h"
 #include "RenderingShader/interfaces/VelIRmaShaderFactory.h"
 #include "platform/objectmodeler/VelModule.h"
+#include "platform/trace/VelTraceRecorder.h"
 #include "tests/host/shadertypes/ShaderTypesTest.h"
 
 namespace {
@@ -52,13 +53,16 @@ TEST_F(VelRmaShaderTypesTest, AFaultyFile_IsReportedOnceAndLeftOut) {
   WriteType("Bad", "type = 1\n");
   WriteType("Good", Sound("Good"));
   ::setenv("VEL_SHADER_TYPES_PATH",
-           (folder_.Path("types") + ":" + folder_.Path("nowhere") + ":" + folder_.Path("nowhere/Gone.toml")).c_str(),
+           (folder_.Path("types") + ":" + folder_.Path("nowhere") + ":" + folder_.Write("note.txt", "no type") + ":" +
+            folder_.Path("nowhere/Gone.toml"))
+               .c_str(),
            1);
   ASSERT_EQ(Start(), S_OK);
   for (int i = 0; i < 3; ++i) EXPECT_EQ(OwnTypes(), Texts{"Good"});
   EXPECT_EQ(
       TakeErrors(),
-      (Texts{Channel("nowhere: expected a file that is named <type>.toml, or a folder of such files"),
+      (Texts{Channel("nowhere: no such file or folder"),
+             Channel("note.txt: expected a file that is named <type>.toml, or a folder of such files"),
              Channel("types/Bad.toml:1:1: the key 'output' is missing; expected the start-up of what the type "
                      "produces, such as \"VelRmaColor\""),
              Channel("types/Bad.toml:1:1: the key 'version' is missing; expected a whole number from 1 to 4294967295"),
@@ -125,6 +129,22 @@ TEST_F(VelRmaShaderTypesTest, AShaderOfADocument_FindsWhatItsFileSaysBeforeAnybo
   EXPECT_EQ(HasTag(hShader, Tag::Diffuse), S_OK);
   EXPECT_EQ(LabelOf(hShader.Get()), "Own label");
   EXPECT_EQ(ScalarOf(hShader, "a"), 2.0F);
+}
+
+TEST_F(VelRmaShaderTypesTest, EveryFileThatIsRead_IsToldOnce) {
+  WriteType("Own", Sound("Own", tagged));
+  WriteType("Bad", "type = 1\n");
+  ASSERT_EQ(Start(), S_OK);
+  VelTraceService::SetSwitches("VelRmaConfiguredShaderFactory");
+  VelTraceRecorder recorder;
+  VelTraceService::AddSink(recorder);
+  for (int i = 0; i < 2; ++i) EXPECT_EQ(OwnTypes(), Texts{"Own"});
+  VelTraceService::RemoveSink(recorder);
+  Texts own;
+  for (const std::string& line : recorder.Texts(VelTraceKind::Information)) {
+    if (line.find("/types/") != std::string::npos) own.push_back(line);
+  }
+  EXPECT_EQ(own, Texts{"Shader type read { file = " + folder_.Path("types/Own.toml") + ", type = Own, version = 1 }"});
 }
 
 TEST_F(VelRmaShaderTypesTest, OnlyTheFileThatIsLookedInto_IsRead) {
