@@ -20,24 +20,35 @@ struct VEL_RSH_MODEL_API VelRshUpgradePlanRow {
   /// Name and start-up together say which parameter of today takes over from which of before; of several with both in
   /// common they pair in order. What each kind fills in beside itself and `parameter` stands behind it.
   enum class Kind {
-    Stops,  ///< The upgrade ends here with `code`: from this parameter on no value is carried over, and no
-            ///< connection at all. `formerStartUp` is empty where its name or type cannot be read; `formerPosition` is
-            ///< 0 where it is the factory that fails, which leaves every value behind. At most one, the first of all.
-    Kept,             ///< The value stays and is today's default. Positions, `startUp`, the three values.
-    KeptOverDefault,  ///< The value stays, and today's default is another. Which default the version of before had is
-                      ///< not known: this tells new defaults and edited values alike. As Kept.
-    Replaced,        ///< The parameter stays, its value does not: a text, a matrix, what lies behind a stop, a document
-                     ///< where there was none, what a connected shader gives back. As Kept.
-    Added,           ///< None of before takes part. `position`, `startUp`, `after`, `standard`.
-    Retyped,         ///< The name stays with another start-up, and the value is lost. As Kept, and `formerStartUp`.
-    Dropped,         ///< None of its name is left. `formerPosition`, `formerStartUp`, `before`.
-    ConnectionKept,  ///< The parameter is connected again to the very same `shader`. Positions.
-    ConnectionLost,  ///< The parameter was connected to `shader`, and no parameter of today takes that over, or the
-                     ///< upgrade stops before. `formerPosition`; `position` too where the parameter stays.
-    ConnectionMade,  ///< Today's version itself connects the parameter, to a shader of the type `shaderType`.
-                     ///< `position`; `shader` is empty for a new one, not there yet.
-    MappingTaken     ///< Another shader, `shader`, is connected to this one, if need be through others, and its
-                     ///< parameter follows by its tag: `before` and `after`, `startUp`, and `position` in that shader.
+    /// The upgrade ends here with `code`: from this parameter on no value is carried over, and no connection at all.
+    /// `formerStartUp` is empty where its name or type cannot be read; `formerPosition` is 0 where it is the factory
+    /// that fails, which leaves every value behind. At most one, the first of all.
+    Stops,
+    /// The value stays and is today's default. Positions, `startUp`, the three values.
+    Kept,
+    /// The value stays, and today's default is another. Which default the version of before had is not known: this
+    /// tells new defaults and edited values alike. As Kept.
+    KeptOverDefault,
+    /// The parameter stays, its value does not: a text, a matrix, what lies behind a stop, a document where there was
+    /// none, what a connected shader gives back. As Kept.
+    Replaced,
+    /// None of before takes part. `position`, `startUp`, `after`, `standard`.
+    Added,
+    /// The name stays with another start-up, and the value is lost. As Kept, and `formerStartUp`.
+    Retyped,
+    /// None of its name is left. `formerPosition`, `formerStartUp`, `before`.
+    Dropped,
+    /// The parameter is connected again to the very same `shader`. Positions.
+    ConnectionKept,
+    /// The parameter was connected to `shader`, and no parameter of today takes that over, or the upgrade stops before.
+    /// `formerPosition`; `position` too where the parameter stays.
+    ConnectionLost,
+    /// Today's version itself connects the parameter, to a shader of the type `shaderType`. `position`; `shader` is
+    /// empty for a new one, which is not there yet.
+    ConnectionMade,
+    /// Another shader, `shader`, is connected to this one, if need be through others, and its parameter follows by its
+    /// tag: `before` and `after`, `startUp`, and `position` in that shader.
+    MappingTaken
   };
 
   Kind kind = Kind::Kept;
