@@ -25,8 +25,7 @@ class RoadPage {
            const std::vector<std::string>& iRoad, const VelIRenderingMaterial_var& iMaterial);
 
   /// @return a line for each channel of a material that has a picture: its number, the parameter that feeds it, its
-  /// size
-  ///         in pixels, its file
+  ///         size in pixels, its file
   static std::vector<std::string> Channels(const VelIRenderingMaterial_var& iMaterial);
 
   /// Writes the page. @return false, after a line on the standard error stream, when it cannot be written

@@ -28,8 +28,7 @@ class VEL_RSH_HOST_API VelIRmaRefresh : public VelBaseUnknown {
   /// Begins to follow a material, which is not kept alive. What is there already counts as up to date.
   /// @param[in] iMaterial any interface of a rendering material
   /// @return S_OK; S_FALSE when it is followed already; E_INVALIDARG when iMaterial is null; E_NOINTERFACE when it is
-  /// no
-  ///         rendering material or has no model events
+  ///         no rendering material or has no model events
   virtual HRESULT Attach(VelBaseUnknown* iMaterial) = 0;
 
   /// Stops following a material. What was heard of it and not updated yet is forgotten.
@@ -38,8 +37,7 @@ class VEL_RSH_HOST_API VelIRmaRefresh : public VelBaseUnknown {
 
   /// Updates now what has been heard.
   /// @return S_OK; S_FALSE when there was nothing to update; E_UNEXPECTED, with nothing done, while a change is being
-  /// told
-  ///         or updated
+  ///         told or updated
   virtual HRESULT Flush() = 0;
 
  protected:

@@ -32,8 +32,7 @@ class VEL_PLATFORM_API VelRbaDocumentServices {
   /// the extension as it is written.
   /// @param[in] iPath a regular file
   /// @return the document; empty when the file cannot be read, which is an error on the channel with path and cause,
-  /// and
-  ///         without a store
+  ///         and without a store
   static VelIPLMDmtDocument_var CreateFromFile(const VelUnicodeString& iPath);
 
   /// Lets the warning of the missing store be sent once more, for tests.

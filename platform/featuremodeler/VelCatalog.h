@@ -27,8 +27,7 @@ class VEL_PLATFORM_API VelCatalog {
   /// Finds a catalog, reading its file when nobody did before. Faults are errors on the channel "VelCatalog" that name
   /// file, line and cause; nothing of a faulty file is registered.
   /// @param[in] iFile the file's name, or a path to it; a name is looked for in the current folder, then in the folders
-  /// of
-  ///            SetFolders
+  ///            of SetFolders
   /// @return the catalog, null when it is not found or faulty
   static const VelCatalog* Load(const std::string& iFile);
 
@@ -36,8 +35,7 @@ class VEL_PLATFORM_API VelCatalog {
   static const VelCatalog* Find(std::string_view iName) noexcept;
 
   /// Sets the folders in which catalogs are looked for. Those of the environment variable VEL_CATALOG_PATH, separated
-  /// by
-  /// ':', come after them.
+  /// by ':', come after them.
   static void SetFolders(std::vector<std::string> iFolders);
 
  private:

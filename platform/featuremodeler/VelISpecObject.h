@@ -51,9 +51,8 @@ class VEL_PLATFORM_API VelISpecObject : public VelBaseUnknown {
   /// @param[in] iInterface what the feature is handed out as
   /// @param[out] oFeature the feature, as the interface asked for, with one reference for the caller; null on failure
   /// @return S_OK; E_INVALIDARG when iContainer or oFeature is null or iContainer is no container of this modeler;
-  /// E_FAIL
-  ///         for what is no start-up, and for a closed container; E_NOINTERFACE when the new feature, which then stays
-  ///         in the container, does not answer the interface
+  ///         E_FAIL for what is no start-up, and for a closed container; E_NOINTERFACE when the new feature, which then
+  ///         stays in the container, does not answer the interface
   virtual HRESULT Instanciate(const VelUnicodeString& iName, VelIContainer* iContainer,
                               const VelInterfaceId& iInterface, VelBaseUnknown** oFeature) = 0;
 

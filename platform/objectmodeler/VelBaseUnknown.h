@@ -43,9 +43,8 @@ class VEL_PLATFORM_API VelBaseUnknown {
   /// @param[in] iInterface the identifier of the interface
   /// @param[out] oInterface the interface with one reference for the caller; always written, null on failure
   /// @return S_OK; E_INVALIDARG when oInterface is null; E_NOINTERFACE when nothing answers, when what is bound
-  /// declines,
-  ///         when its library or symbol is missing (reported as an error), or when the component is closed and nothing
-  ///         that is still built answers
+  ///         declines, when its library or symbol is missing (reported as an error), or when the component is closed
+  ///         and nothing that is still built answers
   virtual HRESULT QueryInterface(const VelInterfaceId& iInterface, VelBaseUnknown** oInterface) noexcept = 0;
 
   /// Adds a reference. @return the new count, for diagnosis only

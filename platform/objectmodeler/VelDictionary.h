@@ -22,8 +22,7 @@ class VEL_PLATFORM_API VelDictionary {
   /// Loads a dictionary file.
   /// @param[in] iPath a regular file of at most 1 MiB
   /// @return S_OK; S_FALSE when the file is loaded already; E_FAIL when it cannot be read, is faulty, or contradicts
-  /// what
-  ///         is loaded: a module, a row or a late type's base that another file declares
+  ///         what is loaded: a module, a row or a late type's base that another file declares
   static HRESULT LoadFile(const std::string& iPath);
 
   /// Loads every file of a folder whose name ends in ".dictionary", in the order of their names.

@@ -62,8 +62,7 @@ class VelLateType {
   const std::string& Name() const noexcept { return name_; }
 
   /// @return the declared base, else the late type of the base of the meta-class of the same name, else the root; null
-  /// for
-  ///         the root itself
+  ///         for the root itself
   VelLateType* Base() const noexcept;
 
   /// @return the declared base alone, null where none is declared
@@ -88,8 +87,7 @@ class VelLateType {
   VelBinding* Declared(std::uint32_t iInterfaceIndex) const noexcept;
 
   /// @return the row that answers an interface, its creation functions at hand; null when there is none or its library
-  /// or
-  ///         symbols are missing. Remembered until the dictionary changes.
+  ///         or symbols are missing. Remembered until the dictionary changes.
   VelBinding* Answer(std::uint32_t iInterfaceIndex) {
     if (iInterfaceIndex < answerCount_) {
       VelBinding* known = answers_[iInterfaceIndex];

@@ -17,8 +17,7 @@ class VEL_PLATFORM_API VelObject : public VelComponent {
   /// Makes an object in session.
   /// @param[in] iLateType any name; one that no dictionary knows gives an object without extensions
   /// @param[in] iClassName the name of its class: a meta-class of that name, which derives from VelObject, is made
-  /// where
-  ///            there is none; null for VelObject itself
+  ///            where there is none; null for VelObject itself
   static VelBaseUnknown_var Create(std::string_view iLateType, const char* iClassName);
 
   /// @return the object behind a pointer, without a reference; null when there is none, as for a feature

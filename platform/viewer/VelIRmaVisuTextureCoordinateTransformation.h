@@ -25,15 +25,13 @@ class VEL_PLATFORM_API VelIRmaVisuTextureCoordinateTransformation : public VelBa
   /// @param[out] oBehavior the number of the mapping behaviour; 0 when no parameter of the shader tells it, 1 when the
   ///             one that does holds no value; untouched on failure
   /// @return S_OK; E_NOINTERFACE when the object is no shader, or the parameter no feature with attributes;
-  /// E_UNEXPECTED
-  ///         when the parameter is of no integer kind
+  ///         E_UNEXPECTED when the parameter is of no integer kind
   virtual HRESULT GetMappingBehavior(std::uint32_t& oBehavior) = 0;
 
   /// @param[out] oFunction the number of the function that projects the texture, 1 to 5; 0 when no parameter of the
   ///             shader tells it, or it holds no value or one that the viewer does not know; untouched on failure
   /// @return S_OK; E_NOINTERFACE when the object is no shader, or the parameter no feature with attributes;
-  /// E_UNEXPECTED
-  ///         when the parameter is of no integer kind
+  ///         E_UNEXPECTED when the parameter is of no integer kind
   virtual HRESULT GetProjectorFunction(std::uint32_t& oFunction) = 0;
 
   /// @param[out] oTransformation what texture coordinates are multiplied with; has infinite figures for a scale or a

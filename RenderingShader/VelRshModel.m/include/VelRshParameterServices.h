@@ -73,8 +73,7 @@ class VEL_RSH_MODEL_API VelRshParameterServices {
   /// @param[in] iName not empty
   /// @param[out] oParameter with one reference for the caller; untouched when there is none
   /// @return S_OK; where there is none, the code of the listing, which is S_OK as well unless it fails: the out
-  /// argument
-  ///         tells; E_FAIL for null, an empty name, and without a shader
+  ///         argument tells; E_FAIL for null, an empty name, and without a shader
   static HRESULT RetrieveParameter(VelIRshParameter* iParameter, VelString iName, VelIRshParameter** oParameter);
 
   /// Reads the value of a parameter beside another one.

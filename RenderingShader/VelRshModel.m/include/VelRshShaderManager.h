@@ -68,8 +68,7 @@ class VEL_RSH_MODEL_API VelRshShaderManager : public VelCommand {
   /// Rebuilds a shader whose version is not the one of its type today. Parameters that have name and start-up in common
   /// with one of the old keep its value (texts and matrices take the default) and its connection; others go.
   /// @return S_OK, also when the versions are equal; E_FAIL when the shader is null, its type unknown, no copy of it
-  /// can
-  ///         be made, or, with the new parameters in place, the copy is no shader; otherwise why version, new
+  ///         can be made, or, with the new parameters in place, the copy is no shader; otherwise why version, new
   ///         parameters or values could not be had: E_UNEXPECTED when name or start-up of an old parameter cannot be
   ///         read. When the factory fails to add the new parameters, a copy of the shader stays in the container, as
   ///         the only place of the old values.

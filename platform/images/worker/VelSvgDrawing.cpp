@@ -154,8 +154,7 @@ void SeparateAlpha(std::span<std::byte> ioPixels) {
 /// Loads what is to be drawn, and measures the whole.
 /// @param[in] iText the whole file
 /// @param[in] iPart the file cut down to some groups; empty for the whole. It has the root of the whole, and thus its
-/// size,
-///            unless that comes from what is drawn.
+///            size, unless that comes from what is drawn.
 HRESULT LoadAndMeasure(std::string_view iText, std::string_view iPart, Handle& oHandle, Extent& oExtent,
                        std::string& oCause) {
   if (iPart.empty()) {

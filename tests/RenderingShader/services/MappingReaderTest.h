@@ -45,8 +45,7 @@ class MappingReaderTest : public RshModelTest {
   }
 
   /// @return what was told since the last time, after "I " for an information and "E " for an error. Anything on
-  /// another
-  ///         channel is a failure, and so is an error without the source text of the reader.
+  ///         another channel is a failure, and so is an error without the source text of the reader.
   Texts Told(const std::string& iChannel) {
     Texts told;
     for (const VelTraceRecorder::Entry& entry : traces_.Entries()) {

@@ -26,8 +26,7 @@ class VelRshParameterTexture final : public VelRshParameterBase {
   /// Reads the path that the appearance keeps for the default slot into which the texture is plugged.
   /// @param[out] oPath empty when there is none
   /// @return S_OK; E_FAIL when the texture is not plugged into a default slot of a material with an appearance; else
-  /// what
-  ///         the appearance answers
+  ///         what the appearance answers
   VEL_RSH_MODEL_API HRESULT GetCachedPath(VelUnicodeString& oPath);
 
   /// Reads the image that the appearance keeps for that slot.
