@@ -19,17 +19,20 @@ constexpr const char* type = "QuiltedLeather";
 
 VelRshShaderManager& Manager() { return *VelRshShaderManager::GetManager(); }
 
+VelIRshParameter_var Find(VelIRshShader& iShader, const char* iName) {
+  const VelRshReaderParameterCollection collection;
+  return collection(collection(iShader), iName);
+}
+
 /// @return S_OK; E_FAIL when there is no such parameter; else the code of the parameter
 template <class Value>
 HRESULT Set(VelIRshShader& ioShader, const char* iName, Value iValue) {
-  const VelRshReaderParameterCollection collection;
-  const VelIRshParameter_var hParameter = collection(collection(ioShader), iName);
+  const VelIRshParameter_var hParameter = Find(ioShader, iName);
   return hParameter ? hParameter->SetValue(&iValue) : E_FAIL;
 }
 
 HRESULT Connect(VelIRshShader& ioShader, const char* iName, VelIRshShader& iConnected) {
-  const VelRshReaderParameterCollection collection;
-  const VelIRshParameter_var hParameter = collection(collection(ioShader), iName);
+  const VelIRshParameter_var hParameter = Find(ioShader, iName);
   return hParameter ? hParameter->SetConnection(&iConnected) : E_FAIL;
 }
 
@@ -44,8 +47,9 @@ bool RoadUpgrade::Publish(const std::string& iVersion) const {
   std::error_code error;
   fs::create_directories(types_, error);
   if (!error) fs::copy_file(from, to, fs::copy_options::overwrite_existing, error);
-  if (error)
+  if (error) {
     std::fprintf(stderr, "'%s' cannot be copied to '%s': %s\n", from.c_str(), to.c_str(), error.message().c_str());
+  }
   return !error;
 }
 
