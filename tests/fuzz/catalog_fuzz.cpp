@@ -4,19 +4,15 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <iterator>
 #include <set>
 #include <string>
 #include <string_view>
 
 #include "platform/featuremodeler/VelCatalogReader.h"
+#include "tests/fuzz/Require.h"
 
 namespace {
-
-void Require(bool iHolds) {
-  if (!iHolds) std::abort();
-}
 
 /// @return the number of lines, at least 1
 std::size_t LineCount(std::string_view iText) {

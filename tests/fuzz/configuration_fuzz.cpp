@@ -1,31 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
 /// @file configuration_fuzz.cpp Fuzzes the reader of configuration and message files with arbitrary bytes.
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <set>
 #include <string_view>
 #include <utility>
 
 #include "platform/files/VelConfigurationText.h"
+#include "tests/fuzz/ConfigurationFault.h"
 
 namespace {
 
 using Form = VelConfigurationText::Form;
-
-void Require(bool iHolds) {
-  if (!iHolds) std::abort();
-}
-
-/// A fault is in the text, or of the file as a whole.
-void CheckFault(std::string_view iText, const VelConfigurationFault& iFault) {
-  const auto lines = 1 + static_cast<std::size_t>(std::count(iText.begin(), iText.end(), '\n'));
-  Require(!iFault.cause.empty());
-  Require(iFault.line <= lines);
-  Require((iFault.line == 0) == (iFault.column == 0));
-}
 
 /// What was accepted can be entered: names are given, no key has two values, no configuration two parents.
 void CheckAccepted(Form iForm, const VelConfigurationContent& iContent) {

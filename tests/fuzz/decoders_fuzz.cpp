@@ -3,19 +3,15 @@
 /// @file decoders_fuzz.cpp Fuzzes the decoders of image files with arbitrary bytes.
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <span>
 #include <string>
 
 #include "platform/images/decoders/VelImageDecoders.h"
 #include "platform/images/pixels/VelImageSource.h"
 #include "platform/images/pixels/VelPixelBuffer.h"
+#include "tests/fuzz/Require.h"
 
 namespace {
-
-void Require(bool iHolds) {
-  if (!iHolds) std::abort();
-}
 
 /// An image that was accepted is of an allowed size, and all of it can be read.
 void CheckAccepted(VelImageKind iKind, const VelPixelBuffer& iImage) {

@@ -4,18 +4,14 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/objectmodeler/VelDictionaryReader.h"
+#include "tests/fuzz/Require.h"
 
 namespace {
-
-void Require(bool iHolds) {
-  if (!iHolds) std::abort();
-}
 
 /// @return the number of lines, at least 1
 std::size_t LineCount(std::string_view iText) {

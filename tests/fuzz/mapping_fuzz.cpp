@@ -9,7 +9,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -29,15 +28,12 @@
 #include "platform/objectmodeler/VelDictionary.h"
 #include "platform/trace/VelTraceRecorder.h"
 #include "platform/trace/VelTraceService.h"
+#include "tests/fuzz/Require.h"
 
 namespace {
 
 constexpr const char* type = "FuzzedType";
 constexpr VelRshMappingPair fallBack{0.125, -8.0};
-
-void Require(bool iHolds) {
-  if (!iHolds) std::abort();
-}
 
 /// A parameter of the shader, and what each reader makes of it.
 struct Known {

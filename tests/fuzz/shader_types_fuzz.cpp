@@ -1,30 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The VelRshModel authors
 // SPDX-License-Identifier: Apache-2.0
 /// @file shader_types_fuzz.cpp Fuzzes the reader of files of shader types with arbitrary bytes.
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <set>
 #include <string_view>
 #include <utility>
 
 #include "host/shadertypes/VelRmaShaderTypeReader.h"
 #include "platform/files/VelTomlTree.h"
+#include "tests/fuzz/ConfigurationFault.h"
 
 namespace {
-
-void Require(bool iHolds) {
-  if (!iHolds) std::abort();
-}
-
-/// A fault is in the text, or of the file as a whole.
-void CheckFault(std::string_view iText, const VelConfigurationFault& iFault) {
-  const auto lines = 1 + static_cast<std::size_t>(std::count(iText.begin(), iText.end(), '\n'));
-  Require(!iFault.cause.empty());
-  Require(iFault.line <= lines);
-  Require((iFault.line == 0) == (iFault.column == 0));
-}
 
 /// Each node stands behind the one around it, which is a table or an array; only nodes of tables have a key.
 void CheckNodes(const std::vector<VelConfigurationNode>& iNodes) {

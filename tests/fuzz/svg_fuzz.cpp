@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <span>
 #include <string>
 #include <string_view>
@@ -17,6 +16,7 @@
 #include "platform/images/worker/VelSvgOutline.h"
 #include "platform/images/worker/VelSvgText.h"
 #include "platform/images/worker/VelWorkerPicture.h"
+#include "tests/fuzz/Require.h"
 
 // The libraries that draw keep the entities of texts and the list of fonts for good. The names are the sanitizer's.
 extern "C" VEL_EXPORT const char* __lsan_default_suppressions();  // NOLINT
@@ -28,10 +28,6 @@ namespace {
 
 /// Resolutions at which nearly all pictures have few pixels.
 constexpr int mostDpi = 8;
-
-void Require(bool iHolds) {
-  if (!iHolds) std::abort();
-}
 
 /// Elements stand in the text, in order, and inside their parents.
 void CheckOutline(std::string_view iText, const VelSvgOutline& iOutline) {

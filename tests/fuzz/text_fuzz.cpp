@@ -3,7 +3,6 @@
 /// @file text_fuzz.cpp Fuzzes the strings and the tokeniser with arbitrary bytes.
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -11,12 +10,9 @@
 #include "platform/base/VelString.h"
 #include "platform/base/VelToken.h"
 #include "platform/base/VelUnicodeString.h"
+#include "tests/fuzz/Require.h"
 
 namespace {
-
-void Require(bool iHolds) {
-  if (!iHolds) std::abort();
-}
 
 /// Well-formed text comes back from UTF-16 exactly; ill-formed text comes back well-formed, and a second way there and
 /// back changes nothing more.
